@@ -1,0 +1,50 @@
+// A list whose entries stand open, each with a number beside it.
+#pragma once
+
+#include "base/controls/control.h"
+#include "base/controls/list_items.h"
+
+namespace ovindra {
+
+class ListBox : public Control {
+ public:
+  template <typename... Options>
+  ListBox(Container& container, std::string_view name, std::string_view caption, Options... options)
+      : Control(container, name, caption) {
+    (Apply(options), ...);
+  }
+
+  const ListItems& items() const { return items_; }
+  int list_index() const { return items_.current(); }
+  /// The current entry; empty when there is none.
+  std::string text() const;
+  /// The number beside an entry; past the ends is error 380.
+  long item_data(int index) const { return items_.At(index).data; }
+
+  void AddItem(std::string_view text, long data = 0);
+  void RemoveItem(int index);
+  void SetItemData(int index, long data);
+  void Clear();
+
+  /// Makes an entry the current one, kNone leaves none; fires nothing. Past the ends is error 380.
+  void SetListIndex(int index);
+
+  /// A person picks an entry by mouse; also when it is the current one it fires click. The arrow keys walk
+  /// through the entries without.
+  void UserPick(int index);
+  /// A person clicks an entry twice: the pick, then the double-click.
+  void UserDoubleClick(int index);
+  /// The second click of a double-click whose first was a pick.
+  void UserSecondClick();
+
+ protected:
+  void DoClick() override {}
+  void DoKey(Key key) override;
+
+ private:
+  using Control::Apply;
+
+  ListItems items_;
+};
+
+}  // namespace ovindra

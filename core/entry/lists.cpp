@@ -1,0 +1,46 @@
+#include "core/entry/lists.h"
+
+namespace ovindra {
+namespace {
+
+template <typename List>
+void Fill(Connection& connection, const SqlText& statement, std::string_view field, List& list) {
+  Recordset rows = connection.Execute(statement);
+  list.Clear();
+  for (; !rows.Eof(); rows.MoveNext()) list.AddItem(Trim(rows[field]));
+}
+
+}  // namespace
+
+void FillList(Connection& connection, const SqlText& statement, std::string_view field, ComboBox& list) {
+  Fill(connection, statement, field, list);
+}
+
+void FillList(Connection& connection, const SqlText& statement, std::string_view field, ListBox& list) {
+  Fill(connection, statement, field, list);
+}
+
+void FillListWithData(Connection& connection, const SqlText& statement, std::string_view field,
+                      std::string_view data_field, ListBox& list) {
+  Recordset rows = connection.Execute(statement);
+  list.Clear();
+  for (; !rows.Eof(); rows.MoveNext())
+    list.AddItem(Trim(rows[field]), static_cast<long>(rows[data_field].AsInteger()));
+}
+
+void FillGrid(Connection& connection, const SqlText& statement,
+              std::initializer_list<std::string_view> fields, Grid& grid) {
+  Recordset rows = connection.Execute(statement);
+  grid.SetRows(grid.fixed_rows());
+  if (rows.Eof()) return;
+  std::vector<std::size_t> ordinals;
+  for (std::string_view field : fields) ordinals.push_back(rows.Ordinal(field));
+  for (; !rows.Eof(); rows.MoveNext()) {
+    Grid::Row cells;
+    cells.reserve(ordinals.size());
+    for (std::size_t ordinal : ordinals) cells.push_back(Trim(rows.At(ordinal)));
+    grid.AddRow(std::move(cells));
+  }
+}
+
+}  // namespace ovindra

@@ -1,0 +1,29 @@
+#include "core/startup/module1.h"
+
+#include "base/text/blanks.h"
+
+namespace ovindra {
+namespace {
+
+constexpr const char* kScreeningSource = "DSN=ZQR;user ID=sa;pwd=nova..381;";
+constexpr const char* kHospitalSource = "DSN=ward;user ID=sa;pwd=nova..381;";
+
+}  // namespace
+
+void Module1::OpenConnections() {
+  try {
+    ScreeningConnection.Open(data_sources_, kScreeningSource);
+    HospitalConnection.Open(data_sources_, kHospitalSource);
+  } catch (const RuntimeError& error) {
+    ShowErrorTail(machine, error);
+  }
+}
+
+std::string Module1::GetUserCode() {
+  const Recordset user =
+      ScreeningConnection.Execute(sql("select user_code from User_Master where  user_name=",
+                                      quoted(Trim(CurrentUserName))));
+  return Trim(user["user_code"]);
+}
+
+}  // namespace ovindra

@@ -1,0 +1,62 @@
+#include "platform/desktop/services/message_box.h"
+
+#include <QApplication>
+#include <QPushButton>
+
+#include "platform/desktop/binder/text.h"
+
+namespace ovindra::desktop {
+namespace {
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kCritical:
+      return QMessageBox::Critical;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kPlain:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+std::unique_ptr<QMessageBox> MakeMessageBox(const Message& message, QWidget* parent) {
+  auto box = std::make_unique<QMessageBox>(parent);
+  box->setTextFormat(Qt::PlainText);
+  box->setText(ToQt(message.text));
+  box->setWindowTitle(ToQt(message.title));
+  box->setIcon(IconOf(message.icon));
+  if (message.buttons == MessageButtons::kYesNo) {
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->button(QMessageBox::Yes)->setText("&Yes");
+    box->button(QMessageBox::No)->setText("&No");
+    box->setDefaultButton(QMessageBox::Yes);
+    box->setEscapeButton(QMessageBox::No);
+  } else {
+    box->setStandardButtons(QMessageBox::Ok);
+    box->setDefaultButton(QMessageBox::Ok);
+    box->setEscapeButton(QMessageBox::Ok);
+  }
+  return box;
+}
+
+Answer AnswerOf(const QMessageBox& box) {
+  const auto button = box.standardButton(box.clickedButton());
+  if (button == QMessageBox::Yes) return Answer::kYes;
+  return button == QMessageBox::No ? Answer::kNo : Answer::kOk;
+}
+
+Answer WindowMessageBox::Show(const Message& message) {
+  before_();
+  const auto box = MakeMessageBox(message, QApplication::activeWindow());
+  box->exec();
+  return AnswerOf(*box);
+}
+
+}  // namespace ovindra::desktop

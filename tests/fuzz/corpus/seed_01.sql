@@ -1,0 +1,1 @@
+select * from Enroll_Master a,School_Master b where a.School_ID=b.Sc_ID and b.Sc_Name='PRIMARY' order by Enroll_no

@@ -1,0 +1,1 @@
+insert into Enroll_Master(Enroll_No,Child_Name,Age,Gender) values('S1','ASHA','9','F'),('S2',null,5,'M')

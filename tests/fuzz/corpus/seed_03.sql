@@ -1,0 +1,1 @@
+update Enroll_Master set Age=Age+1,Condition='D' where Enroll_No='S1'

@@ -1,0 +1,1 @@
+delete from Enroll_Master where Enroll_No in(select Enroll_No from Enroll_Master where Age between 0 and 5)

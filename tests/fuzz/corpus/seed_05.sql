@@ -1,0 +1,1 @@
+select distinct a.Block_Code,sum(convert(numeric,No_of_TTeacher)) as Total from School_Master a group by a.Block_Code order by Total desc

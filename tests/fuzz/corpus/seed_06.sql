@@ -1,0 +1,1 @@
+Update Enroll_Master Set Enroll_Master.EnrollEntry = t1.User_Name from (Select distinct * from User_Master) as T1 Where Enroll_Master.EnrollEntry = t1.User_Code

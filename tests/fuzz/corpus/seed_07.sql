@@ -1,0 +1,1 @@
+select Enroll_No,b.SC_Name into Temp61 from Enroll_Master a,School_Master b where Enroll_No like 'S%'and a.School_ID=b.SC_ID order by a.Enroll_No

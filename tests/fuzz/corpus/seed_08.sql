@@ -1,0 +1,1 @@
+if exists(select * from dbo.Enroll_Master) drop table dbo.Enroll_Master

@@ -1,0 +1,1 @@
+select case a.Gender when 'M' then 'MALE' else 'FEMALE' end as g,count(distinct a.Enroll_No) from Enroll_Master a left join School_Master b on a.School_ID=b.SC_ID where a.Enroll_Date between '05/01/2016'and'05/31/2016'and a.Age<>5 or b.SC_ID is null group by a.Gender having count(*)>1

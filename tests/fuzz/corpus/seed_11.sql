@@ -1,0 +1,1 @@
+create table T (A int identity primary key,B as convert(varchar(10),A) persisted,C varchar(20) not null default 'N',constraint UQ_T unique(C))

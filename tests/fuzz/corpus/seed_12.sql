@@ -1,0 +1,1 @@
+alter table User_Master add RE_Sph varchar(20),LE_Sph varchar(20)

@@ -1,0 +1,1 @@
+create unique nonclustered index IX on School_Master(SC_Name desc,Block_Code) include(Center_ID) where Block_Code=1

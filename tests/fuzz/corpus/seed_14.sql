@@ -1,0 +1,1 @@
+create view v as select top 3 Center_Name as n,isnull(Amount,0)/2 as h from Center_Master1 order by Center_Name

@@ -1,0 +1,1 @@
+select 5/2,5%2,-1.5*2,1e5,'a'+'b',convert(varchar(10),Enroll_Date,101),dateadd(month,1,Enroll_Date),substring(Child_Name,1,3) from Enroll_Master

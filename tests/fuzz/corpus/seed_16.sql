@@ -1,0 +1,1 @@
+select Shown from vw_Center union all select SC_Name from School_Master order by 1

@@ -1,0 +1,1 @@
+set identity_insert User_Master on

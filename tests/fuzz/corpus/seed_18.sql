@@ -1,0 +1,1 @@
+insert into User_Master(User_Code,User_Name) select Age,Child_Name from Enroll_Master where not exists(select * from School_Master where SC_ID=School_ID)

@@ -1,0 +1,1 @@
+select (select max(Age) from Enroll_Master b where b.School_ID=a.SC_ID) from School_Master a

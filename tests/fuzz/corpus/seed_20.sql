@@ -1,0 +1,1 @@
+delete a from Enroll_Master a,School_Master b where a.School_ID=b.SC_ID and b.SC_Name like '[a-f]_%'

@@ -1,0 +1,84 @@
+// Feeds any bytes to the stages of the embedded engine as the text of a statement, against a database of
+// fixed tables. A text is either refused or translated, and what is translated must be a statement that
+// SQLite understands.
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <sqlite3.h>
+
+#include "base/runtime_error.h"
+#include "platform/embedded/binder/binder.h"
+#include "platform/embedded/catalog/catalog.h"
+#include "platform/embedded/lexer/lexer.h"
+#include "platform/embedded/parser/parser.h"
+#include "platform/embedded/session/engine.h"
+#include "platform/embedded/translator/translator.h"
+
+namespace {
+
+using namespace ovindra;
+using namespace ovindra::embedded;
+
+constexpr const char* kTables = R"(
+create table Enroll_Master (
+  Enroll_No varchar(20) not null constraint PK_Enroll_Master primary key, Child_Name varchar(100), Age int,
+  Gender varchar(1), Class varchar(20), Center_ID varchar(20), Block_Code int, Enroll_Date datetime,
+  School_ID varchar(21), Screened varchar(1) default 'N', Condition varchar(1), Screened_Date datetime,
+  EnrollEntry varchar(50), Mr_No varchar(20))
+create table School_Master (
+  SC_ID varchar(20) primary key, SC_Name varchar(100), Block_Code int, No_of_TTeacher varchar(10), Center_ID varchar(20))
+create table Center_Master1 (
+  Center_No int identity primary key, Center_ID as convert(varchar(10),Center_No) persisted, Center_Name varchar(100),
+  Amount numeric(10,2), Rate float)
+create table User_Master (User_Code int identity, User_Name varchar(50) unique, Password varchar(50))
+create view vw_Center as select Center_ID,Center_Name+'!' as Shown,Amount*2 as Twice from Center_Master1
+create unique index IX_Mr on Enroll_Master(Mr_No) where Screened='Y'
+)";
+
+struct FixedDatabase {
+  FixedDatabase() {
+    sqlite3_open(":memory:", &database);
+    engine = new Engine(database, "", "fuzz");
+    engine->Run(WholeStatement(kTables));
+    catalog = new Catalog(database);
+  }
+  sqlite3* database = nullptr;
+  Engine* engine = nullptr;
+  Catalog* catalog = nullptr;
+};
+
+/// Whether SQLite only says that the statement is too much for it, which the session tells as a refusal.
+bool IsBeyondLimits(const std::string& message) {
+  return message.find("stack overflow") != std::string::npos ||
+         message.find("too large") != std::string::npos || message.find("too many") != std::string::npos;
+}
+
+/// SQLite's own opinion on the first step; those after it stand on what the first would make.
+void RequireUnderstood(sqlite3* database, const Program& program, const std::string& text) {
+  if (program.steps.empty()) return;
+  sqlite3_stmt* handle = nullptr;
+  const int result = sqlite3_prepare_v2(database, program.steps.front().c_str(), -1, &handle, nullptr);
+  sqlite3_finalize(handle);
+  if (result == SQLITE_OK || IsBeyondLimits(sqlite3_errmsg(database))) return;
+  std::fprintf(stderr, "%s\n  became\n%s\n  %s\n", text.c_str(), program.steps.front().c_str(),
+               sqlite3_errmsg(database));
+  std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static FixedDatabase fixed;
+  const std::string text(reinterpret_cast<const char*>(data), size);
+  try {
+    const std::vector<Token> tokens = Lex(text);
+    for (const syntax::Statement& statement : Parse(text, tokens, {})) {
+      RequireUnderstood(fixed.database, Translate(Bind(statement, *fixed.catalog, "User_Master")), text);
+    }
+  } catch (const RuntimeError&) {
+    // Refused, as most texts are.
+  }
+  return 0;
+}

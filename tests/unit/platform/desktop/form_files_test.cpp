@@ -1,0 +1,102 @@
+// Every form of the program against its file.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+#include "app/forms.h"
+#include "desk.h"
+#include "platform/desktop/binder/form_file.h"
+#include "platform/desktop/binder/text.h"
+
+namespace ovindra::desktop {
+namespace {
+
+// What a screen of 1366x768 leaves to a form.
+constexpr QSize kRoom(1348, 615);
+
+class FormFiles : public testing::TestWithParam<std::string> {
+ protected:
+  struct NoSources : DataSources {
+    std::unique_ptr<Session> Connect(std::string_view) override { return nullptr; }
+  };
+
+  FormFiles() : desktop_((UseOffscreenApplication(), ViewSettings{"", Timers::kStandStill})) {
+    for (const FormEntry& entry : AllForms()) {
+      if (entry.name == GetParam()) form_ = entry.make(program_.module());
+    }
+    view_ = std::make_unique<FormView>(
+        *form_, [](const auto& action) { action(); }, ViewSettings{"", Timers::kStandStill});
+    view_->Build();
+    view_->ShowChanges();
+  }
+
+  Desktop desktop_;
+  NoSources sources_;
+  Program program_{desktop_.machine(), sources_, AllForms()};
+  std::unique_ptr<Form> form_;
+  std::unique_ptr<FormView> view_;
+};
+
+QStringList TabStops(const QByteArray& file) {
+  QStringList names;
+  for (QXmlStreamReader reader(file); !reader.atEnd(); reader.readNext()) {
+    if (reader.isStartElement() && reader.name() == u"tabstop") names.push_back(reader.readElementText());
+  }
+  return names;
+}
+
+TEST_P(FormFiles, ControlsAndWidgetsAreTheSame) {
+  EXPECT_EQ(view_->untied(), QStringList{});
+}
+
+TEST_P(FormFiles, TheTabOrderIsThatOfTheControls) {
+  QStringList order;
+  for (const Control* control : form_->controls()) {
+    if (control->TakesFocus()) order.push_back(WidgetName(*control));
+  }
+  EXPECT_EQ(TabStops(ReadFormFile(ToQt(GetParam()))).join(' ').toStdString(), order.join(' ').toStdString());
+}
+
+TEST_P(FormFiles, TheFileHoldsNoStateAndNoStyle) {
+  const QString file = QString::fromUtf8(ReadFormFile(ToQt(GetParam())));
+  for (const char* word : {"name=\"geometry\"", "styleSheet", "<connection", "name=\"enabled\"",
+                           "name=\"visible\"", "name=\"checked\""}) {
+    EXPECT_FALSE(file.contains(word)) << word;
+  }
+}
+
+TEST_P(FormFiles, ItFitsTheSmallestScreenAndNothingIsCut) {
+  QWidget& root = *view_->root();
+  root.show();
+  root.resize(root.sizeHint());
+  QApplication::processEvents();
+  if (qobject_cast<QMainWindow*>(&root) == nullptr) {
+    EXPECT_LE(root.sizeHint().width(), kRoom.width());
+    EXPECT_LE(root.sizeHint().height(), kRoom.height());
+  }
+  for (const QWidget* widget : root.findChildren<QWidget*>()) {
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    const bool has_text = (label != nullptr && !label->wordWrap() && label->pixmap().isNull()) ||
+                          qobject_cast<const QAbstractButton*>(widget) != nullptr;
+    // The toolkit's own parts size themselves.
+    if (!has_text || !widget->isVisible() || widget->objectName().startsWith("qt_")) continue;
+    EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->objectName().toStdString();
+    EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << widget->objectName().toStdString();
+  }
+}
+
+std::vector<std::string> FormNames() {
+  std::vector<std::string> names;
+  for (const FormEntry& entry : AllForms()) names.emplace_back(entry.name);
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FormFiles, testing::ValuesIn(FormNames()),
+                         [](const auto& form) { return form.param; });
+
+}  // namespace
+}  // namespace ovindra::desktop

@@ -1,0 +1,88 @@
+#include "tools/driver/drive.h"
+
+#include "tools/driver/language/grammar.h"
+#include "tools/driver/language/script.h"
+#include "tools/driver/runner/runner.h"
+
+namespace ovindra::driver {
+namespace {
+
+constexpr int kAllHeld = 0;
+constexpr int kSomeFailed = 1;
+constexpr int kNotUnderstood = 2;
+
+constexpr const char* kUsage =
+    "usage: ovindra-drive [--window] [--trace] [--database FOLDER] [--pictures FOLDER] FILE...";
+
+struct CommandLine {
+  bool window = false;
+  bool trace = false;
+  std::string database_folder;
+  std::string picture_folder = ".";
+  std::vector<std::string> files;
+};
+
+CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
+  CommandLine line;
+  for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+    const auto value_of = [&] {
+      const std::string option = *argument;
+      if (++argument == arguments.end()) throw LanguageError(option + " needs a folder\n" + kUsage);
+      return *argument;
+    };
+    if (*argument == "--window") {
+      line.window = true;
+    } else if (*argument == "--trace") {
+      line.trace = true;
+    } else if (*argument == "--database") {
+      line.database_folder = value_of();
+    } else if (*argument == "--pictures") {
+      line.picture_folder = value_of();
+    } else if (argument->starts_with("--")) {
+      throw LanguageError("unknown option '" + *argument + "'\n" + kUsage);
+    } else {
+      line.files.push_back(*argument);
+    }
+  }
+  if (line.files.empty()) throw LanguageError(std::string("no file to play\n") + kUsage);
+  return line;
+}
+
+std::unique_ptr<Player> MakePlayer(const CommandLine& line, const DriveParts& parts) {
+  if (!line.window) return parts.on_controls();
+  if (!parts.on_windows) throw LanguageError("--window: this program was built without its desktop");
+  return parts.on_windows();
+}
+
+std::vector<Scenario> ReadAll(const std::vector<std::string>& files) {
+  std::vector<Scenario> all;
+  for (const std::string& file : files) {
+    std::vector<Scenario> scenarios = ReadScript(file);
+    all.insert(all.end(), std::make_move_iterator(scenarios.begin()),
+               std::make_move_iterator(scenarios.end()));
+  }
+  return all;
+}
+
+}  // namespace
+
+int Drive(const std::vector<std::string>& arguments, const DriveParts& parts, std::ostream& out,
+          std::ostream& err) {
+  try {
+    const CommandLine line = ReadCommandLine(arguments);
+    const std::vector<Scenario> scenarios = ReadAll(line.files);
+    const std::unique_ptr<Player> player = MakePlayer(line, parts);
+    Runner runner({parts.forms, parts.databases(line.database_folder), line.picture_folder, line.trace},
+                  *player, out);
+    int passed = 0;
+    for (const Scenario& scenario : scenarios) passed += runner.Play(scenario) ? 1 : 0;
+    const int failed = static_cast<int>(scenarios.size()) - passed;
+    out << passed << " passed, " << failed << " failed" << std::endl;
+    return failed == 0 ? kAllHeld : kSomeFailed;
+  } catch (const LanguageError& error) {
+    err << error.what() << std::endl;
+    return kNotUnderstood;
+  }
+}
+
+}  // namespace ovindra::driver

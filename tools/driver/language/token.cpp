@@ -1,0 +1,90 @@
+#include "tools/driver/language/token.h"
+
+namespace ovindra::driver {
+namespace {
+
+constexpr std::string_view kBlanks = " \t";
+
+/// Reads what follows a backslash at that place; leaves the place behind what was read.
+char ReadEscape(std::string_view line, std::size_t& at) {
+  const char next = at < line.size() ? line[at] : '\0';
+  switch (next) {
+    case 't':
+      ++at;
+      return '\t';
+    case 'n':
+      ++at;
+      return '\n';
+    case 'r':
+      ++at;
+      return '\r';
+    case '\\':
+      ++at;
+      return '\\';
+    default:
+      return '\\';
+  }
+}
+
+Token ReadText(std::string_view line, std::size_t begin) {
+  Token token{TokenKind::kUnclosedText, {}, begin, 0};
+  std::size_t at = begin + 1;
+  while (at < line.size()) {
+    const char c = line[at++];
+    if (c == '\\') {
+      token.value += ReadEscape(line, at);
+    } else if (c != '"') {
+      token.value += c;
+    } else if (at < line.size() && line[at] == '"') {
+      token.value += '"';
+      ++at;
+    } else {
+      token.kind = TokenKind::kText;
+      break;
+    }
+  }
+  token.length = at - begin;
+  return token;
+}
+
+}  // namespace
+
+std::vector<Token> CutLine(std::string_view line) {
+  std::vector<Token> tokens;
+  for (std::size_t at = line.find_first_not_of(kBlanks); at < line.size();
+       at = line.find_first_not_of(kBlanks, at)) {
+    if (line[at] == '"') {
+      tokens.push_back(ReadText(line, at));
+    } else {
+      const std::string_view word = line.substr(at, line.find_first_of(" \t\"", at) - at);
+      tokens.push_back({TokenKind::kWord, std::string(word), at, word.size()});
+    }
+    at += tokens.back().length;
+  }
+  return tokens;
+}
+
+std::string Quote(std::string_view text) {
+  std::string quoted = "\"";
+  for (const char c : text) {
+    switch (c) {
+      case '"':
+        quoted += "\"\"";
+        break;
+      case '\t':
+        quoted += "\\t";
+        break;
+      case '\n':
+        quoted += "\\n";
+        break;
+      case '\r':
+        quoted += "\\r";
+        break;
+      default:
+        quoted += c;
+    }
+  }
+  return quoted + '"';
+}
+
+}  // namespace ovindra::driver

@@ -1,0 +1,76 @@
+#include "tools/driver/world/recording_machine.h"
+
+#include "base/text/utf8.h"
+
+namespace ovindra::driver {
+namespace {
+
+/// The oldest reply, or the one that stands for none.
+template <typename Reply>
+Reply TakeReply(std::deque<Reply>& replies, Reply without) {
+  if (replies.empty()) return without;
+  Reply reply = std::move(replies.front());
+  replies.pop_front();
+  return reply;
+}
+
+/// "\version.txt" and "Version.txt" are one file.
+std::string FileKey(std::string_view name) {
+  if (name.starts_with('\\')) name.remove_prefix(1);
+  return LowerCaseLatin(name);
+}
+
+}  // namespace
+
+void RecordingMachine::LayFile(std::string_view name, std::string first_line) {
+  program_files_[FileKey(name)] = std::move(first_line);
+}
+
+void RecordingMachine::TakeFileAway(std::string_view name) {
+  program_files_.erase(FileKey(name));
+}
+
+std::optional<Message> RecordingMachine::TakeMessage() {
+  if (messages_.empty()) return {};
+  return TakeReply(messages_, {});
+}
+
+std::optional<Message> RecordingMachine::TakeUnansweredQuestion() {
+  return std::exchange(unanswered_, std::nullopt);
+}
+
+void RecordingMachine::ForgetPapers() {
+  written_files_.clear();
+  prints_ = 0;
+}
+
+Answer RecordingMachine::Show(const Message& message) {
+  Answer answer = Answer::kOk;
+  if (message.buttons == MessageButtons::kYesNo) {
+    if (answers_.empty() && !unanswered_) unanswered_ = message;
+    answer = TakeReply(answers_, Answer::kNo);
+  }
+  const SeenMessage seen = player_.ShowMessage(message, answer);
+  trace_.MessageBox(seen.message, seen.answer);
+  messages_.push_back(seen.message);
+  return seen.answer;
+}
+
+std::string RecordingMachine::AskSaveName() {
+  return player_.ShowSaveDialog(TakeReply(save_names_, {}));
+}
+
+bool RecordingMachine::AskPrinter() {
+  return player_.ShowPrinterDialog(TakeReply(printer_replies_, true));
+}
+
+std::optional<std::string> RecordingMachine::FirstLine(std::string_view name) const {
+  const auto file = program_files_.find(FileKey(name));
+  return file == program_files_.end() ? std::nullopt : file->second;
+}
+
+bool RecordingMachine::Has(std::string_view name) const {
+  return program_files_.contains(FileKey(name));
+}
+
+}  // namespace ovindra::driver

@@ -1,0 +1,16 @@
+// The commands of the setup program. Each gives an exit code; errors of the databases pass through as
+// RuntimeError, those of the command line as UsageError.
+#pragma once
+
+#include "tools/setup/arguments.h"
+#include "tools/setup/console.h"
+
+namespace ovindra {
+
+int Create(const Arguments& arguments, Console& console);
+int Demo(const Arguments& arguments, Console& console);
+int Check(const Arguments& arguments, Console& console);
+int Backup(const Arguments& arguments, Console& console);
+int Sql(const Arguments& arguments, Console& console);
+
+}  // namespace ovindra
