@@ -20,9 +20,8 @@ void Module1::OpenConnections() {
 }
 
 std::string Module1::GetUserCode() {
-  const Recordset user =
-      ScreeningConnection.Execute(sql("select user_code from User_Master where  user_name=",
-                                      quoted(Trim(CurrentUserName))));
+  const Recordset user = ScreeningConnection.Execute(
+      sql("select user_code from User_Master where  user_name=", quoted(Trim(CurrentUserName))));
   return Trim(user["user_code"]);
 }
 

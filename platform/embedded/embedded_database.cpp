@@ -104,7 +104,7 @@ std::unique_ptr<EmbeddedDatabase> EmbeddedDatabase::Open(const std::filesystem::
   }
 }
 
-std::unique_ptr<EmbeddedDatabase> EmbeddedDatabase::OpenInMemory(std::string name) {
+std::unique_ptr<EmbeddedDatabase> EmbeddedDatabase::OpenInMemory(const std::string& name) {
   return std::unique_ptr<EmbeddedDatabase>(new EmbeddedDatabase(std::make_unique<Connection>(
       std::filesystem::path(), name, SQLite::OPEN_READWRITE, std::chrono::milliseconds(0))));
 }

@@ -36,7 +36,7 @@ class EmbeddedDatabase : public Session {
                                                 const EmbeddedOptions& options = {});
 
   /// A database that lasts as long as the object.
-  static std::unique_ptr<EmbeddedDatabase> OpenInMemory(std::string name = "memory");
+  static std::unique_ptr<EmbeddedDatabase> OpenInMemory(const std::string& name = "memory");
 
   /// A copy in memory of the database as it is now, under the same name.
   std::unique_ptr<EmbeddedDatabase> CopyInMemory() const;

@@ -197,11 +197,11 @@ RuntimeError SecondPrimaryKey(std::string_view table) {
   return Refuse(Refusal::kSyntax, {"Cannot add multiple PRIMARY KEY constraints to table '", table, "'."});
 }
 RuntimeError AddedColumnNeedsValue(std::string_view column, std::string_view table) {
-  return Refuse(
-      Refusal::kSyntax,
-      {"ALTER TABLE only allows columns to be added that can contain nulls, or have a DEFAULT definition "
-       "specified. Column '",
-       column, "' cannot be added to table '", table, "' because it does not satisfy these conditions."});
+  constexpr std::string_view kRule =
+      "ALTER TABLE only allows columns to be added that can contain nulls, or have a DEFAULT definition "
+      "specified.";
+  return Refuse(Refusal::kSyntax, {kRule, " Column '", column, "' cannot be added to table '", table,
+                                   "' because it does not satisfy these conditions."});
 }
 RuntimeError NestedTooDeeply() {
   return Refuse(Refusal::kSyntax,

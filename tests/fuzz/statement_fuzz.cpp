@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include <sqlite3.h>
 
@@ -67,18 +68,40 @@ void RequireUnderstood(sqlite3* database, const Program& program, const std::str
   std::abort();
 }
 
-}  // namespace
+/// The literals of a statement as if they had been joined into it as values.
+std::vector<ValuePlace> AllLiterals(const std::vector<Token>& tokens) {
+  std::vector<ValuePlace> places;
+  for (const Token& token : tokens) {
+    const bool is_text = token.kind == TokenKind::kText;
+    if (is_text || token.kind == TokenKind::kInteger)
+      places.push_back({token.offset, token.text.size(), is_text});
+  }
+  return places;
+}
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static FixedDatabase fixed;
-  const std::string text(reinterpret_cast<const char*>(data), size);
+void TryStatement(FixedDatabase& fixed, const std::string& text, const std::vector<Token>& tokens,
+                  const std::vector<ValuePlace>& values) {
   try {
-    const std::vector<Token> tokens = Lex(text);
-    for (const syntax::Statement& statement : Parse(text, tokens, {})) {
+    for (const syntax::Statement& statement : Parse(text, tokens, values)) {
       RequireUnderstood(fixed.database, Translate(Bind(statement, *fixed.catalog, "User_Master")), text);
     }
   } catch (const RuntimeError&) {
     // Refused, as most texts are.
   }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static FixedDatabase fixed;
+  const std::string text(reinterpret_cast<const char*>(data), size);
+  std::vector<Token> tokens;
+  try {
+    tokens = Lex(text);
+  } catch (const RuntimeError&) {
+    return 0;
+  }
+  TryStatement(fixed, text, tokens, {});
+  TryStatement(fixed, text, tokens, AllLiterals(tokens));
   return 0;
 }

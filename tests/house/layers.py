@@ -30,7 +30,7 @@ RULES = {
     "platform/embedded": (["platform/embedded", "base"], r"sqlite3\.h|SQLiteCpp/.*|sys/(stat|vfs|statfs|types)\.h|unistd\.h|fcntl\.h"),
     "platform/odbc": (["platform/odbc", "base"], r"sql(ext|types|ucode)?\.h"),
     "platform/office": (["platform/office", "base"], r"xlsxwriter(/.*|\.h)|gsf/.*"),
-    "platform/desktop": (["platform/desktop", "core/startup", "base"], r"Q\w+(/\w+)?|X11/.*|xcb/.*"),
+    "platform/desktop": (["platform/desktop", "core/startup", "base"], r"Q\w+(/\w+)?|windows\.h|X11/XKBlib\.h"),
     "tools/driver/window": (["tools/driver", "platform/desktop", "app", "core", "base"], r"Q\w+(/\w+)?"),
     "tools/driver": (["tools", "platform/embedded", "app", "core", "base"], None),
 }

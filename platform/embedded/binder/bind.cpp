@@ -11,7 +11,7 @@ namespace {
 class StatementBinder {
  public:
   StatementBinder(Catalog& catalog, std::string_view identity_insert)
-      : context_{catalog, identity_insert, {}, 0} {}
+      : context_{catalog, identity_insert, {}} {}
 
   bound::Statement Run(const syntax::Statement& statement) {
     return std::visit([this](const auto& node) { return Finish(Bind(node)); }, statement.node);
@@ -31,10 +31,10 @@ class StatementBinder {
   Node Bind(const syntax::Insert& node) { return BindInsert(node, context_); }
   Node Bind(const syntax::Update& node) { return BindUpdate(node, context_); }
   Node Bind(const syntax::Delete& node) { return BindDelete(node, context_); }
-  Node Bind(const syntax::CreateTable& node) { return BindCreateTable(node, context_); }
-  Node Bind(const syntax::AddColumns& node) { return BindAddColumns(node, context_); }
-  Node Bind(const syntax::CreateView& node) { return BindCreateView(node, context_); }
-  Node Bind(const syntax::CreateIndex& node) { return BindCreateIndex(node, context_); }
+  Node Bind(const syntax::CreateTable& node) { return BindCreateTable(node, Definition()); }
+  Node Bind(const syntax::AddColumns& node) { return BindAddColumns(node, Definition()); }
+  Node Bind(const syntax::CreateView& node) { return BindCreateView(node, Definition()); }
+  Node Bind(const syntax::CreateIndex& node) { return BindCreateIndex(node, Definition()); }
   Node Bind(const syntax::Drop& node) { return BindDrop(node, context_); }
   Node Bind(const syntax::SetIdentityInsert& node) {
     const CatalogTable& table = ChangeableTable(node.table, context_);
@@ -44,6 +44,11 @@ class StatementBinder {
   Node Bind(const syntax::SetOption&) { return bound::Nothing{}; }
   /// The session asks the condition first and then binds what it guards.
   Node Bind(const syntax::If& node) { return Bind(*node.query); }
+
+  BindContext& Definition() {
+    context_.takes_parameters = false;
+    return context_;
+  }
 
   BindContext context_;
 };

@@ -19,6 +19,8 @@ struct BindContext {
   std::string_view identity_insert;
   std::vector<bound::ParameterRule> parameters;
   std::size_t sources = 0;
+  /// Whether values may be parameters: SQLite takes none in a definition.
+  bool takes_parameters = true;
 
   std::size_t NewSource() { return ++sources; }
 };

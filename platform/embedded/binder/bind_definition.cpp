@@ -101,6 +101,7 @@ std::vector<bound::KeyDefinition> BindKeys(const std::vector<syntax::KeyDefiniti
 std::vector<bound::ColumnDefinition> BindColumns(const std::vector<syntax::ColumnDefinition>& definitions,
                                                  BindContext& context) {
   std::vector<bound::ColumnDefinition> columns;
+  columns.reserve(definitions.size());
   for (const syntax::ColumnDefinition& column : definitions) columns.push_back(BindColumn(column, context));
   return columns;
 }

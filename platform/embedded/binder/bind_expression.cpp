@@ -65,7 +65,7 @@ ExpressionPtr ExpressionBinder::Bind(const syntax::Expression& expression) {
 
 ExpressionPtr ExpressionBinder::Bind(const syntax::Literal& literal) {
   const SqlType type = TypeOf(literal);
-  if (literal.value) {
+  if (literal.value && context_.takes_parameters) {
     context_.parameters.push_back({*literal.value, type, type, Purpose::kComputed});
     bound::Expression parameter{bound::Parameter{context_.parameters.size() - 1}, type};
     parameter.allows_null = false;

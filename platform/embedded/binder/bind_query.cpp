@@ -235,14 +235,18 @@ bound::SourcePtr BindDerived(const syntax::DerivedTable& derived, const syntax::
 }
 
 bound::SourcePtr BindJoin(const syntax::Join& join, BindContext& context, Scope& scope) {
-  bound::Join result{join.kind, BindSource(*join.left, context, scope), nullptr, nullptr};
+  bound::Join result{};
+  result.kind = join.kind;
+  result.left = BindSource(*join.left, context, scope);
   const std::size_t mark = scope.Mark();
   result.right = BindSource(*join.right, context, scope);
   if (join.condition) {
     result.condition = ExpressionBinder(context, scope, Aggregates::kRefused).Condition(*join.condition);
   }
   if (join.kind == syntax::JoinKind::kLeft) scope.AllowNullsFrom(mark);
-  return std::make_unique<bound::Source>(bound::Source{std::move(result), 0});
+  auto source = std::make_unique<bound::Source>();
+  source->node = std::move(result);
+  return source;
 }
 
 bound::SourcePtr BindSource(const syntax::TableSource& source, BindContext& context, Scope& scope) {

@@ -184,28 +184,28 @@ void CountOfMoments(FunctionArguments& call) {
 
 struct SqlFunction {
   const char* name;
-  int arguments;
   void (*run)(FunctionArguments&);
+  int arguments;
   bool is_deterministic = true;
 };
 
 constexpr SqlFunction kSqlFunctions[] = {
-    {"convert_value", 9, ConvertValue},
-    {"fit_text", 2, FitTextValue},
-    {"fit_number", 4, FitNumberValue},
-    {"fit_moment", 1, FitMomentValue},
-    {"divide", 5, Divide},
-    {"modulo", 5, Modulo},
-    {"like_text", 2, LikeText},
-    {"like_from", 1, LikeFrom},
-    {"like_to", 1, LikeTo},
-    {"part_of_text", 3, PartOfText},
-    {"end_of_text", 2, EndOfText},
-    {"replace_text", 3, ReplaceText},
-    {"moment_now", 0, Now, false},
-    {"moment_part", 2, PartOfMoment},
-    {"moment_add", 3, AddToMoment},
-    {"moment_count", 3, CountOfMoments},
+    {"convert_value", ConvertValue, 9},
+    {"fit_text", FitTextValue, 2},
+    {"fit_number", FitNumberValue, 4},
+    {"fit_moment", FitMomentValue, 1},
+    {"divide", Divide, 5},
+    {"modulo", Modulo, 5},
+    {"like_text", LikeText, 2},
+    {"like_from", LikeFrom, 1},
+    {"like_to", LikeTo, 1},
+    {"part_of_text", PartOfText, 3},
+    {"end_of_text", EndOfText, 2},
+    {"replace_text", ReplaceText, 3},
+    {"moment_now", Now, 0, false},
+    {"moment_part", PartOfMoment, 2},
+    {"moment_add", AddToMoment, 3},
+    {"moment_count", CountOfMoments, 3},
 };
 
 /// What a function is registered with: which it is, and where its refusal goes.

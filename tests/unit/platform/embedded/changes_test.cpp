@@ -186,6 +186,15 @@ TEST_F(Changes, ViewsShowTheirRowsUnderTheirNames) {
   EXPECT_EQ(database.Refusal("select * from vw_Person").substr(0, 11), "-2147217865");
 }
 
+TEST_F(Changes, ADefinitionKeepsTheValuesThatItWasMadeWith) {
+  database->Run(sql("create table Kept (A int, B varchar(5) default ", quoted("b"), ")"));
+  database->Run(sql("insert into Kept(A) values(", bare("1"), ")"));
+  database->Run(sql("create view vw_Kept as select B from Kept where A=", bare("1")));
+  EXPECT_EQ(database.Select("select * from vw_Kept"), (Rows{{"b"}}));
+  database->Run(sql("select A into Taken from Kept where B=", quoted("B")));
+  EXPECT_EQ(database.Select("select * from Taken"), (Rows{{"1"}}));
+}
+
 TEST_F(Changes, AConditionOnTheNewValuesSeesTheOldRow) {
   database.Run("insert into Person(Name,Age) values('ANN',1)");
   database.Run("update Person set Age=Age+1,Weight=Age where Age=1");
