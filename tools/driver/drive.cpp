@@ -12,10 +12,11 @@ constexpr int kSomeFailed = 1;
 constexpr int kNotUnderstood = 2;
 
 constexpr const char* kUsage =
-    "usage: ovindra-drive [--window] [--trace] [--database FOLDER] [--pictures FOLDER] FILE...";
+    "usage: ovindra-drive [--window [--dark]] [--trace] [--database FOLDER] [--pictures FOLDER] FILE...";
 
 struct CommandLine {
   bool window = false;
+  Look look = Look::kLight;
   bool trace = false;
   std::string database_folder;
   std::string picture_folder = ".";
@@ -32,6 +33,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     };
     if (*argument == "--window") {
       line.window = true;
+    } else if (*argument == "--dark") {
+      line.look = Look::kDark;
     } else if (*argument == "--trace") {
       line.trace = true;
     } else if (*argument == "--database") {
@@ -51,7 +54,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
 std::unique_ptr<Player> MakePlayer(const CommandLine& line, const DriveParts& parts) {
   if (!line.window) return parts.on_controls();
   if (!parts.on_windows) throw LanguageError("--window: this program was built without its desktop");
-  return parts.on_windows();
+  return parts.on_windows(line.look);
 }
 
 std::vector<Scenario> ReadAll(const std::vector<std::string>& files) {

@@ -14,6 +14,7 @@
 namespace ovindra::driver {
 
 using PlayerMaker = std::function<std::unique_ptr<Player>()>;
+using WindowPlayerMaker = std::function<std::unique_ptr<Player>(Look)>;
 
 /// What the program is put together from.
 struct DriveParts {
@@ -23,7 +24,7 @@ struct DriveParts {
   std::function<DatabaseMaker(const std::string& folder)> databases;
   PlayerMaker on_controls;
   /// Empty where the program was built without a desktop.
-  PlayerMaker on_windows;
+  WindowPlayerMaker on_windows;
 };
 
 /// Plays the files that the command line names and returns the exit code: 0 when all held, 1 when a scenario

@@ -28,6 +28,9 @@ namespace ovindra::driver {
 
 class World;
 
+/// How the windows look, where there are any.
+enum class Look { kLight, kDark };
+
 /// A control as a scenario names it: "frmenroll", "Text1".
 struct ControlName {
   std::string form;

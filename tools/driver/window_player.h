@@ -9,6 +9,6 @@ namespace ovindra::driver {
 
 /// Makes the player and, at its first call in a process, the desktop application that it plays on; offscreen
 /// where there is no display.
-std::unique_ptr<Player> MakeWindowPlayer();
+std::unique_ptr<Player> MakeWindowPlayer(Look look);
 
 }  // namespace ovindra::driver

@@ -106,6 +106,8 @@ bool WidgetBinding::Filter(QObject* watched, QEvent& event) {
       return own;
     }
     case QEvent::KeyPress: {
+      // A part that has the keyboard for itself, the year of a calendar, keeps its keys.
+      if (watched != &focus_widget() && watched != &widget_) return false;
       auto& key = static_cast<QKeyEvent&>(event);
       WidgetBinding* target = IsMnemonicChord(key) ? view().WithMnemonic(key) : nullptr;
       if (target == nullptr) return KeyPressed(key);

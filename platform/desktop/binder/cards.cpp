@@ -10,8 +10,8 @@ constexpr int kGap = 4;
 
 class CardPlace : public QObject {
  public:
-  CardPlace(QWidget& form, QWidget& card, QWidget& anchor)
-      : QObject(&card), form_(form), card_(card), anchor_(anchor) {
+  CardPlace(QWidget& form, QWidget& card, QWidget& anchor, bool is_over)
+      : QObject(&card), form_(form), card_(card), anchor_(anchor), is_over_(is_over) {
     card.installEventFilter(this);
     form.installEventFilter(this);
   }
@@ -28,7 +28,11 @@ class CardPlace : public QObject {
     card_.adjustSize();
     const QRect anchor(anchor_.mapTo(&form_, QPoint()), anchor_.size());
     QRect place(anchor.bottomLeft() + QPoint(0, kGap), card_.size());
-    if (place.bottom() > form_.height() - kGap) place.moveBottom(anchor.top() - kGap);
+    if (is_over_) {
+      place.moveCenter(anchor.center());
+    } else if (place.bottom() > form_.height() - kGap) {
+      place.moveBottom(anchor.top() - kGap);
+    }
     place.moveLeft(qMax(kGap, qMin(place.left(), form_.width() - place.width() - kGap)));
     place.moveTop(qMax(kGap, place.top()));
     card_.setGeometry(place);
@@ -38,15 +42,17 @@ class CardPlace : public QObject {
   QWidget& form_;
   QWidget& card_;
   QWidget& anchor_;
+  bool is_over_;
 };
 
 }  // namespace
 
 void PlaceCards(QWidget& form) {
   for (QWidget* card : form.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-    const QString below = card->property("below").toString();
-    QWidget* anchor = below.isEmpty() ? nullptr : form.findChild<QWidget*>(below);
-    if (anchor != nullptr) new CardPlace(form, *card, *anchor);
+    const QString over = card->property("over").toString();
+    const QString name = over.isEmpty() ? card->property("below").toString() : over;
+    QWidget* anchor = name.isEmpty() ? nullptr : form.findChild<QWidget*>(name);
+    if (anchor != nullptr) new CardPlace(form, *card, *anchor, !over.isEmpty());
   }
 }
 

@@ -1,7 +1,7 @@
 // Cards: widgets of a form that lie over it instead of standing in its layout, a calendar below its date
 // field for instance. In the form's file a card is a child of the form outside all layouts, with the property
-// `below` that names the widget under which it appears. It stays inside the form: where the room below ends
-// it goes above.
+// `below` that names the widget under which it appears, or `over` that names the one whose middle it covers.
+// It stays inside the form: where the room below ends it goes above.
 #pragma once
 
 #include <QWidget>

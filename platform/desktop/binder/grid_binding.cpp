@@ -31,6 +31,13 @@ void GridModel::Refresh() {
   endResetModel();
 }
 
+bool GridModel::HasHeadings() const {
+  for (int column = 0; column < grid_.columns(); ++column) {
+    if (!Trim(grid_.Cell(0, column)).empty()) return true;
+  }
+  return false;
+}
+
 Qt::Alignment GridModel::Judge(int column) const {
   bool numbers = true;
   bool letters = true;
@@ -87,6 +94,7 @@ void GridBinding::Show(Aspects aspects) {
   WidgetBinding::Show(aspects);
   if (Has(aspects, Aspect::kItems)) {
     model_.Refresh();
+    shown_.horizontalHeader()->setVisible(model_.HasHeadings());
     shown_.FitColumns();
     is_reloaded_ = true;
   }

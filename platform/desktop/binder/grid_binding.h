@@ -1,5 +1,5 @@
 // A grid tied to the view that shows it. The view reads the grid's own rows, so that a list of a hundred
-// thousand opens at once; the fixed row is the view's header.
+// thousand opens at once; the fixed row is the view's header, which is hidden when it has no texts.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -18,6 +18,7 @@ class GridModel : public QAbstractTableModel {
   explicit GridModel(const Grid& grid) : grid_(grid) {}
 
   void Refresh();
+  bool HasHeadings() const;
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
   int columnCount(const QModelIndex& parent = {}) const override {

@@ -71,7 +71,11 @@ StatusBarBinding::StatusBarBinding(FormView& view, StatusBar& control, QStatusBa
     auto* label = new QLabel(&bar);
     const bool is_lock = panel.kind == PanelKind::kCapsLock || panel.kind == PanelKind::kNumLock;
     const bool is_clock = panel.kind == PanelKind::kDate || panel.kind == PanelKind::kTime;
-    if (!is_lock) theme::role::Set(*label, theme::role::kPanel);
+    if (is_lock) {
+      ShowLock(*label, false);
+    } else {
+      theme::role::Set(*label, theme::role::kPanel);
+    }
     // The bar takes its height from what its panels hold when they come.
     label->setText(Text(panel));
     label->ensurePolished();

@@ -1,6 +1,7 @@
 #include "platform/desktop/services/message_box.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QPushButton>
 
 #include "platform/desktop/binder/text.h"
@@ -24,6 +25,15 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+/// Keeps a short text from making a narrow box. A minimum width of the text itself would be taken for all
+/// that a long one needs.
+void Widen(QMessageBox& box) {
+  constexpr int kNarrowest = 300;
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(new QSpacerItem(kNarrowest, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
+}
+
 }  // namespace
 
 std::unique_ptr<QMessageBox> MakeMessageBox(const Message& message, QWidget* parent) {
@@ -43,6 +53,7 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const Message& message, QWidget* par
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(QMessageBox::Ok);
   }
+  Widen(*box);
   return box;
 }
 
@@ -55,7 +66,11 @@ Answer AnswerOf(const QMessageBox& box) {
 Answer WindowMessageBox::Show(const Message& message) {
   before_();
   const auto box = MakeMessageBox(message, QApplication::activeWindow());
+  // Whoever is asked does not wait.
+  const bool waits = QApplication::overrideCursor() != nullptr;
+  if (waits) QApplication::setOverrideCursor(Qt::ArrowCursor);
   box->exec();
+  if (waits) QApplication::restoreOverrideCursor();
   return AnswerOf(*box);
 }
 

@@ -10,28 +10,10 @@
 #include "base/controls/text_box.h"
 #include "base/text/utf8.h"
 #include "tools/driver/controls/controls_player.h"
+#include "tools/driver/key_for.h"
 
 namespace ovindra::driver {
 namespace {
-
-/// The key that enters this character.
-Key KeyFor(char32_t character) {
-  switch (character) {
-    case U' ':
-      return {KeyName::kSpace};
-    case U'\n':
-    case U'\r':
-      return {KeyName::kEnter};
-    case U'\t':
-      return {KeyName::kTab};
-    default:
-      return Key::Of(character);
-  }
-}
-
-Key KeyFor(Key key) {
-  return key.name == KeyName::kCharacter ? KeyFor(key.character) : key;
-}
 
 void PressWhereTheFocusIs(Form& form, Key key) {
   if (form.focused() != nullptr) {

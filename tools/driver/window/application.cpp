@@ -7,8 +7,6 @@
 namespace ovindra::driver {
 namespace {
 
-bool is_dark = false;
-
 /// Offscreen there is nothing to raise a window over, which Qt never tires of telling.
 void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (text.startsWith("This plugin does not support")) return;
@@ -26,11 +24,7 @@ void GoOffscreenWithoutDisplay() {
 
 }  // namespace
 
-void UseDarkLook(bool dark) {
-  is_dark = dark;
-}
-
-QApplication& DesktopApplication() {
+QApplication& DesktopApplication(Look look) {
   static char name[] = "ovindra-drive";
   static char* arguments[] = {name, nullptr};
   static int count = 1;
@@ -41,7 +35,7 @@ QApplication& DesktopApplication() {
     // Lives as long as the process, since windows of a player may still be on their way out.
     application = new QApplication(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
-    theme::Apply(*application, is_dark ? theme::Mode::Dark : theme::Mode::Light);
+    theme::Apply(*application, look == Look::kDark ? theme::Mode::Dark : theme::Mode::Light);
   }
   return *application;
 }

@@ -4,12 +4,11 @@
 
 #include <QApplication>
 
+#include "tools/driver/player.h"
+
 namespace ovindra::driver {
 
-/// The look of the windows, chosen before the first player is made.
-void UseDarkLook(bool dark);
-
-/// Made at the first call, in the program's look.
-QApplication& DesktopApplication();
+/// Made at the first call, in that look.
+QApplication& DesktopApplication(Look look);
 
 }  // namespace ovindra::driver

@@ -18,6 +18,7 @@
 #include "base/text/utf8.h"
 #include "platform/desktop/binder/grid_view.h"
 #include "platform/desktop/binder/text.h"
+#include "tools/driver/key_for.h"
 #include "tools/driver/window/find_widget.h"
 
 namespace ovindra::driver {
@@ -39,20 +40,6 @@ constexpr KeyCode kKeyCodes[] = {
     {KeyName::kF8, Qt::Key_F8},
     {KeyName::kF9, Qt::Key_F9},
 };
-
-Key KeyFor(char32_t character) {
-  switch (character) {
-    case U' ':
-      return {KeyName::kSpace};
-    case U'\n':
-    case U'\r':
-      return {KeyName::kEnter};
-    case U'\t':
-      return {KeyName::kTab};
-    default:
-      return Key::Of(character);
-  }
-}
 
 /// The line that a text box is, or that a combo box has.
 QLineEdit* LineOf(QWidget& widget) {
@@ -83,6 +70,10 @@ void ClickItem(QAbstractItemView& view, const QModelIndex& index) {
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
 }
 
+void ClickItem(QMenu& menu, QAction& item) {
+  QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&item).center());
+}
+
 QPoint HeadPlace(const QHeaderView& head, int column) {
   return {head.sectionViewportPosition(column) + head.sectionSize(column) / 2, head.height() / 2};
 }
@@ -108,6 +99,7 @@ void WindowPlayer::TurnTo(std::string_view form) {
 
 /// Without a window manager a window that has closed leaves none active.
 void WindowPlayer::Activate(std::string_view form) {
+  ClosePopups();
   QApplication::setActiveWindow(WindowOf(form).window()->window());
 }
 
@@ -118,9 +110,9 @@ void WindowPlayer::Click(const ControlName& name) {
   }
   Activate(name.form);
   QWidget& widget = BindingOf(name).widget();
-  // A click in a box of text or a list would go to a place in it; the focus is all that is meant.
-  const bool has_places = LineOf(widget) != nullptr || qobject_cast<QAbstractItemView*>(&widget) != nullptr;
-  if (has_places || qobject_cast<QComboBox*>(&widget) != nullptr) {
+  // A click in a list would go to an entry; the focus is all that is meant.
+  const bool has_entries = qobject_cast<QAbstractItemView*>(&widget) != nullptr;
+  if (has_entries || qobject_cast<QComboBox*>(&widget) != nullptr) {
     BringFocus(name);
   } else {
     ClickMiddle(widget);
@@ -128,17 +120,18 @@ void WindowPlayer::Click(const ControlName& name) {
 }
 
 void WindowPlayer::ChooseFromMenu(QAction& action) {
-  for (auto* menu : WindowOf("MDIForm1").view().root()->findChildren<QMenu*>()) {
-    if (!menu->actions().contains(&action)) continue;
-    menu->popup(QPoint(0, 0));
-    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&action).center());
+  auto& bar = *WindowOf("MDIForm1").view().root()->findChild<QMenuBar*>();
+  for (QAction* title : bar.actions()) {
+    const bool in_menu = title->menu() != nullptr && title->menu()->actions().contains(&action);
+    if (title != &action && !in_menu) continue;
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(title).center());
+    if (in_menu) ClickItem(*title->menu(), action);
     return;
   }
-  auto* bar = WindowOf("MDIForm1").view().root()->findChild<QMenuBar*>();
-  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(&action).center());
 }
 
 void WindowPlayer::DoubleClick(const ControlName& name) {
+  Activate(name.form);
   QWidget& widget = BindingOf(name).widget();
   auto* list = qobject_cast<QListView*>(&widget);
   if (list == nullptr) {
@@ -150,6 +143,7 @@ void WindowPlayer::DoubleClick(const ControlName& name) {
 }
 
 void WindowPlayer::ClickCell(const ControlName& name, int row, int column) {
+  Activate(name.form);
   auto& grid = WidgetOf<desktop::GridView>(name);
   QHeaderView& head = *grid.horizontalHeader();
   if (row == 0) {
@@ -160,6 +154,7 @@ void WindowPlayer::ClickCell(const ControlName& name, int row, int column) {
 }
 
 void WindowPlayer::DoubleClickCell(const ControlName& name, int row, int column) {
+  Activate(name.form);
   auto& grid = WidgetOf<desktop::GridView>(name);
   QHeaderView& head = *grid.horizontalHeader();
   if (row == 0) {
@@ -218,12 +213,12 @@ void WindowPlayer::Clear(const ControlName& name) {
 
 void WindowPlayer::Press(const ControlName& name, Key key) {
   if (!BringFocus(name)) return;
-  PressKey(key.name == KeyName::kCharacter ? KeyFor(key.character) : key);
+  PressKey(KeyFor(key));
 }
 
 void WindowPlayer::PressOnForm(std::string_view form, Key key) {
   TurnTo(form);
-  PressKey(key.name == KeyName::kCharacter ? KeyFor(key.character) : key);
+  PressKey(KeyFor(key));
 }
 
 void WindowPlayer::PressKey(Key key) {
@@ -241,6 +236,7 @@ void WindowPlayer::PressKey(Key key) {
 }
 
 void WindowPlayer::Pick(const ControlName& name, std::string_view entry) {
+  Activate(name.form);
   QWidget& widget = BindingOf(name).widget();
   if (auto* list = qobject_cast<QListView*>(&widget)) {
     ClickItem(*list, list->model()->index(IndexOf(*list->model(), name, entry), 0));
@@ -262,6 +258,7 @@ void WindowPlayer::Tick(const ControlName& name, bool on) {
 }
 
 void WindowPlayer::SelectTab(const ControlName& name, std::string_view caption) {
+  Activate(name.form);
   QTabBar& bar = BarOf(BindingOf(name).widget());
   for (int tab = 0; tab < bar.count(); ++tab) {
     if (bar.tabText(tab) != desktop::ToQt(caption)) continue;
@@ -278,6 +275,7 @@ void WindowPlayer::SetDate(const ControlName& name, Date date) {
 }
 
 void WindowPlayer::ClickDay(const ControlName& name, Date date) {
+  Activate(name.form);
   auto& calendar = WidgetOf<QCalendarWidget>(name);
   const QDate day = desktop::ToQt(date);
   calendar.setCurrentPage(day.year(), day.month());

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QMdiSubWindow>
+#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -46,8 +47,8 @@ Message Read(const QMessageBox& box) {
 
 }  // namespace
 
-WindowPlayer::WindowPlayer() {
-  DesktopApplication();
+WindowPlayer::WindowPlayer(Look look) {
+  DesktopApplication(look);
 }
 
 void WindowPlayer::ProgramMade(Program& program) {
@@ -59,6 +60,7 @@ void WindowPlayer::ProgramMade(Program& program) {
 }
 
 void WindowPlayer::ProgramGone() {
+  ClosePopups();
   Settle();
   desktop_.reset();
   program_ = nullptr;
@@ -83,16 +85,24 @@ SeenMessage WindowPlayer::ShowMessage(const Message& message, Answer answer) {
 
 void WindowPlayer::Settle() {
   QApplication::processEvents();
-  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QApplication::processEvents();
 }
 
+/// A list or a menu stays open until the next step, so that a picture can be taken of it.
+void WindowPlayer::ClosePopups() {
+  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+}
+
 void WindowPlayer::TakePicture(std::string_view form, const std::string& file) {
   QWidget* window = WindowOf(form).window()->window();
-  QApplication::setActiveWindow(window);
+  if (QApplication::activePopupWidget() == nullptr) QApplication::setActiveWindow(window);
   QApplication::processEvents();
   QPixmap picture = window->grab();
+  if (QWidget* popup = QApplication::activePopupWidget()) {
+    QPainter painter(&picture);
+    painter.drawPixmap(window->mapFromGlobal(popup->pos()), popup->grab());
+  }
   if (!picture.save(desktop::ToQt(file))) throw StepFailure("a picture in " + file, "it can't be written");
 }
 
@@ -123,8 +133,8 @@ QAction* WindowPlayer::ActionOf(const ControlName& name) const {
   return action;
 }
 
-std::unique_ptr<Player> MakeWindowPlayer() {
-  return std::make_unique<WindowPlayer>();
+std::unique_ptr<Player> MakeWindowPlayer(Look look) {
+  return std::make_unique<WindowPlayer>(look);
 }
 
 }  // namespace ovindra::driver

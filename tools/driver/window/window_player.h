@@ -13,7 +13,7 @@ namespace ovindra::driver {
 
 class WindowPlayer : public Player {
  public:
-  WindowPlayer();
+  explicit WindowPlayer(Look look);
 
   void EnterWorld(World& /*world*/) override {}
   void LeaveWorld() override {}
@@ -71,6 +71,7 @@ class WindowPlayer : public Player {
   QAction* ActionOf(const ControlName& name) const;
   void ChooseFromMenu(QAction& action);
 
+  void ClosePopups();
   void Activate(std::string_view form);
   /// Moves the focus there by keyboard. False when a validate step has prevented it.
   bool BringFocus(const ControlName& name);
