@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QTabBar>
 #include <QUiLoader>
 
 #include "platform/desktop/binder/form_panel.h"
@@ -63,7 +64,9 @@ QHash<QString, QWidget*> ControlWidgets(const QWidget& loaded) {
   QHash<QString, QWidget*> named;
   for (QWidget* widget : loaded.findChildren<QWidget*>()) {
     const QString name = widget->objectName();
-    if (name.isEmpty() || name.startsWith("look_") || name.startsWith("qt_")) continue;
+    // The buttons by which a tab bar scrolls have names without the toolkit's mark.
+    const bool is_part = name.startsWith("qt_") || qobject_cast<QTabBar*>(widget->parentWidget()) != nullptr;
+    if (name.isEmpty() || name.startsWith("look_") || is_part) continue;
     named.insert(name, widget);
   }
   return named;

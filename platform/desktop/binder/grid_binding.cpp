@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "base/text/blanks.h"
 #include "platform/desktop/binder/form_view.h"
 #include "platform/desktop/binder/keys.h"
 #include "platform/desktop/binder/text.h"
