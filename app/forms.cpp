@@ -3,7 +3,13 @@
 #include "core/shell/login.h"
 #include "core/shell/main_window.h"
 #include "core/startup/flash.h"
+#include "workflow/attended_child.h"
 #include "workflow/enrollment.h"
+#include "workflow/examination.h"
+#include "workflow/os_camp.h"
+#include "workflow/school_register.h"
+#include "workflow/screening.h"
+#include "workflow/strength_entry.h"
 
 namespace ovindra {
 
@@ -13,6 +19,12 @@ FormList AllForms() {
       EntryFor<frmlogin>("frmlogin"),
       EntryFor<MDIForm1>("MDIForm1"),
       EntryFor<frmenroll>("frmenroll"),
+      EntryFor<frmscreened>("frmscreened"),
+      EntryFor<frmchildrecord>("frmchildrecord"),
+      EntryFor<Form2>("Form2"),
+      EntryFor<frmattend>("frmattend"),
+      EntryFor<frmschool_screening>("frmschool_screening"),
+      EntryFor<frmNew>("frmNew"),
   };
 }
 
