@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QListView>
 #include <QTabBar>
 #include <QUiLoader>
 
@@ -20,6 +21,14 @@ static void InitFormsResource() {
 namespace ovindra::desktop {
 namespace {
 
+/// A list that wishes for a few rows, so that two pairs of them fit a form; the toolkit's wishes for more.
+class ListView : public QListView {
+ public:
+  using QListView::QListView;
+
+  QSize sizeHint() const override { return {200, 132}; }
+};
+
 /// Knows the program's own widgets besides Qt's.
 class FormLoader : public QUiLoader {
  public:
@@ -29,6 +38,7 @@ class FormLoader : public QUiLoader {
     QWidget* widget = nullptr;
     if (parent == nullptr && class_name == "QWidget") widget = new FormPanel;
     if (class_name == "QTableView") widget = new GridView(parent);
+    if (class_name == "QListView") widget = new ListView(parent);
     if (class_name == "BackdropArea") widget = new BackdropArea(parent);
     if (class_name == "SplashPicture") widget = new SplashPicture(parent);
     if (class_name == "LoginPicture") widget = new LoginPicture(parent);

@@ -9,6 +9,7 @@
 #include "platform/desktop/binder/form_view.h"
 #include "platform/desktop/binder/keys.h"
 #include "platform/desktop/binder/text.h"
+#include "platform/desktop/theme/theme.h"
 
 namespace ovindra::desktop {
 namespace {
@@ -65,12 +66,16 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::TextAlignmentRole) {
     return static_cast<int>(alignment_[static_cast<std::size_t>(index.column())]);
   }
+  // Without headings the first column holds the captions of the others.
+  if (role == Qt::ForegroundRole && index.column() == 0 && !HasHeadings()) return theme::Current().muted;
   return {};
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
-  if (role == Qt::DisplayRole) return ToQt(grid_.Cell(0, section));
+  // Blanks behind a heading make its column wide; shown, they would push it away from its numbers.
+  if (role == Qt::DisplayRole) return ToQt(grid_.Cell(0, section)).trimmed();
+  if (role == Qt::EditRole) return ToQt(grid_.Cell(0, section));
   if (role == Qt::TextAlignmentRole) return static_cast<int>(alignment_[static_cast<std::size_t>(section)]);
   return {};
 }

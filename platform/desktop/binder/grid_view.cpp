@@ -16,11 +16,13 @@ namespace {
 constexpr int kRowsJudged = 60;
 constexpr int kCellPadding = 22;
 constexpr int kWidestStart = 320;
+// In a list of captions and values the values begin where the fields of a form do.
+constexpr int kCaptionColumn = 116;
 // The size a form gives its list when it opens.
 constexpr int kUsualColumn = 157;
 constexpr int kNarrowest = 320;
 constexpr int kWidest = 800;
-constexpr int kUsualHeight = 340;
+constexpr int kUsualHeight = 280;
 
 }  // namespace
 
@@ -43,13 +45,20 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
 
 QSize GridView::sizeHint() const {
   const int columns = model() == nullptr ? 0 : model()->columnCount();
-  return {qBound(kNarrowest, columns * kUsualColumn, kWidest), kUsualHeight};
+  // Captions and values are as many as the form's file gives room to.
+  const int height = horizontalHeader()->isHidden() ? minimumHeight() : kUsualHeight;
+  return {qBound(kNarrowest, columns * kUsualColumn, kWidest), height};
 }
 
 void GridView::FitColumns() {
   const int columns = model() == nullptr ? 0 : model()->columnCount();
   if (is_dragged_ || columns == 0) return;
   is_fitting_ = true;
+  if (horizontalHeader()->isHidden()) {
+    setColumnWidth(0, qMax(kCaptionColumn, WantedWidth(0)));
+    is_fitting_ = false;
+    return;
+  }
   std::vector<int> widths;
   int total = 0;
   int text_columns = 0;
@@ -58,17 +67,18 @@ void GridView::FitColumns() {
     total += widths.back();
     if (IsTextColumn(column)) ++text_columns;
   }
-  const int share = text_columns == 0 ? 0 : qMax(0, viewport()->width() - total) / text_columns;
+  const bool all_share = text_columns == 0;
+  const int share = qMax(0, viewport()->width() - total) / (all_share ? columns : text_columns);
   for (int column = 0; column < columns; ++column) {
-    const int width = widths[static_cast<std::size_t>(column)] + (IsTextColumn(column) ? share : 0);
-    setColumnWidth(column, width);
+    const bool shares = all_share || IsTextColumn(column);
+    setColumnWidth(column, widths[static_cast<std::size_t>(column)] + (shares ? share : 0));
   }
   is_fitting_ = false;
 }
 
 int GridView::WantedWidth(int column) const {
   const QFontMetrics metrics(font());
-  int width = metrics.horizontalAdvance(model()->headerData(column, Qt::Horizontal).toString());
+  int width = metrics.horizontalAdvance(model()->headerData(column, Qt::Horizontal, Qt::EditRole).toString());
   const int rows = qMin(model()->rowCount(), kRowsJudged);
   for (int row = 0; row < rows; ++row) {
     width = qMax(width, metrics.horizontalAdvance(model()->index(row, column).data().toString()));

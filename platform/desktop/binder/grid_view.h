@@ -15,7 +15,7 @@ class GridView : public QTableView {
   QSize sizeHint() const override;
 
   /// Gives the columns the widths of their contents, what is left over to the columns of text and the last
-  /// one.
+  /// one, to all alike where none holds text. Without a header the first column is as wide as captions are.
   void FitColumns();
 
  signals:

@@ -139,8 +139,8 @@ std::vector<std::string> WindowPlayer::GridRow(const ControlName& name, int row)
   const QAbstractItemModel& model = *WidgetOf<desktop::GridView>(name).model();
   std::vector<std::string> cells;
   for (int column = 0; column < model.columnCount(); ++column) {
-    const QVariant cell =
-        row == 0 ? model.headerData(column, Qt::Horizontal) : model.index(row - 1, column).data();
+    const QVariant cell = row == 0 ? model.headerData(column, Qt::Horizontal, Qt::EditRole)
+                                   : model.index(row - 1, column).data();
     cells.push_back(FromQt(cell.toString()));
   }
   return cells;
