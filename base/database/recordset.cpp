@@ -17,7 +17,7 @@ std::string NumberText(double value) {
   char digits[400];
   const auto format = std::abs(value) < 1e15 ? std::chars_format::fixed : std::chars_format::general;
   const auto written = std::to_chars(std::begin(digits), std::end(digits), value, format);
-  return std::string(digits, written.ptr);
+  return {digits, written.ptr};
 }
 
 template <typename Number>

@@ -98,9 +98,9 @@ void SqlText::Finish() {
   if (broken_literal_) refusal_ = BrokenLiteral(text_, *broken_literal_);
 }
 
-SqlText WholeStatement(std::string text) {
+SqlText WholeStatement(std::string_view text) {
   SqlText statement;
-  statement.Add(std::string_view(text));
+  statement.Add(text);
   return statement;
 }
 

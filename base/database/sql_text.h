@@ -75,7 +75,7 @@ class SqlText {
  private:
   template <typename... Parts>
   friend SqlText sql(Parts&&... parts);
-  friend SqlText WholeStatement(std::string text);
+  friend SqlText WholeStatement(std::string_view text);
 
   void Add(std::string_view fragment) { text_ += fragment; }
   void Add(const Fragment& fragment) { text_ += fragment.text(); }
@@ -122,6 +122,6 @@ SqlText sql(Parts&&... parts) {
 
 /// A whole statement that a person wrote as SQL: an administrator's, a test's. Never for text that the
 /// program joined.
-SqlText WholeStatement(std::string text);
+SqlText WholeStatement(std::string_view text);
 
 }  // namespace ovindra

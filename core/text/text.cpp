@@ -25,7 +25,7 @@ double Round(double value, int decimals) {
 std::string NumberText(double value) {
   char digits[400];
   const auto written = std::to_chars(std::begin(digits), std::end(digits), value, std::chars_format::fixed);
-  return std::string(digits, written.ptr);
+  return {digits, written.ptr};
 }
 
 std::string PadString(std::string_view text, std::size_t width, char pad) {

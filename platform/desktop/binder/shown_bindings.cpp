@@ -14,8 +14,8 @@ constexpr Twips kTwipsInPixel = 15;
 
 QColor ToQt(Colour colour) {
   constexpr unsigned kByte = 0xFF;
-  return QColor(static_cast<int>(colour & kByte), static_cast<int>(colour >> 8 & kByte),
-                static_cast<int>(colour >> 16 & kByte));
+  return {static_cast<int>(colour & kByte), static_cast<int>(colour >> 8 & kByte),
+          static_cast<int>(colour >> 16 & kByte)};
 }
 
 /// The largest picture of the file, which may hold several.

@@ -36,7 +36,7 @@ class QuietMachine : public MessageBox,
 class EventLog {
  public:
   template <typename... Args>
-  void Note(Event<Args...>& event, std::string name) {
+  void Note(Event<Args...>& event, const std::string& name) {
     event.Handle([this, name](Args...) { entries_.push_back(name); });
   }
 

@@ -46,7 +46,7 @@ class TestDatabase {
   EmbeddedDatabase& operator*() { return *database_; }
   EmbeddedDatabase* operator->() { return database_.get(); }
 
-  Recordset Run(std::string statement) { return database_->Run(WholeStatement(std::move(statement))); }
+  Recordset Run(std::string_view statement) { return database_->Run(WholeStatement(statement)); }
   Rows Select(std::string statement) { return RowsOf(Run(std::move(statement))); }
   /// The first field of the first row.
   std::string Value(std::string statement) { return Select(std::move(statement)).at(0).at(0); }
