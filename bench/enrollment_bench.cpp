@@ -1,79 +1,26 @@
 // The enrollment form on a million children, beside the same statements by hand. Each benchmark runs both in
 // turn and reports the ratio of their medians, so that it holds when the machine's speed drifts.
-#include <chrono>
-
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include "app/forms.h"
-#include "base/controls/combo_box.h"
-#include "bench/large_database.h"
-#include "bench/median.h"
-#include "tests/unit/base/controls/test_form.h"
+#include "bench/beside.h"
+#include "bench/desk.h"
 
 namespace ovindra::bench {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-double Seconds(Clock::duration duration) {
-  return std::chrono::duration<double>(duration).count();
-}
-
-/// Runs both in turn, ours timed by the benchmark, and reports the medians and their ratio.
-template <typename Ours, typename Hand>
-void RunBeside(benchmark::State& state, Ours ours, Hand hand) {
-  std::vector<double> our_times;
-  std::vector<double> hand_times;
-  for (auto _ : state) {
-    const auto start = Clock::now();
-    ours();
-    const auto between = Clock::now();
-    hand();
-    hand_times.push_back(Seconds(Clock::now() - between));
-    our_times.push_back(Seconds(between - start));
-    state.SetIterationTime(our_times.back());
-  }
-  state.counters["by_hand_ms"] = Median(hand_times) * 1e3;
-  state.counters["ours_ms"] = Median(our_times) * 1e3;
-  state.counters["ratio"] = Median(our_times) / Median(hand_times);
-}
-
-class LargeSource : public DataSources {
- public:
-  std::unique_ptr<Session> Connect(std::string_view) override { return OpenLarge(); }
-};
-
-/// The program on the large database, with the enrollment form ready for an entry.
-class Desk {
- public:
-  Desk() : program(machine.services, source, AllForms()) {
-    program.module().ScreeningConnection.Open(source, "DSN=ZQR;");
-    program.Perform([this] {
-      program.Show("frmenroll");
-      Form& form = *program.OpenForm("frmenroll");
-      form.Find("Command1")->UserClick();
-    });
-  }
-
-  QuietMachine machine;
-  LargeSource source;
-  Program program;
-};
-
 /// Picking a school fills the grid with its children.
 void PickSchool(benchmark::State& state) {
-  Desk desk;
+  Desk desk("frmenroll");
+  desk.Click("Command1");
   const auto database = OpenLarge();
   const std::string school = SchoolOfThreeHundred(*database);
-  auto& schools = dynamic_cast<ComboBox&>(*desk.program.OpenForm("frmenroll")->Find("Combo1"));
-  const int index = *schools.items().IndexOf(school);
   ByHand by_hand;
   sqlite3_stmt* statement = by_hand.Prepare(
       "select * from Enroll_Master a,School_Master b where a.School_ID=b.SC_ID and b.SC_Name=?1 order by "
       "Enroll_No");
   RunBeside(
-      state, [&] { desk.program.Perform([&] { schools.SetListIndex(index); }); },
+      state, [&] { desk.Pick("Combo1", school); },
       [&] {
         sqlite3_bind_text(statement, 1, school.c_str(), -1, SQLITE_STATIC);
         while (sqlite3_step(statement) == SQLITE_ROW) {

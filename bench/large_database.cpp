@@ -34,6 +34,12 @@ void Make(const std::filesystem::path& folder) {
   std::filesystem::rename(unfinished, folder);
 }
 
+std::unique_ptr<EmbeddedDatabase> OpenFile(const char* name) {
+  EmbeddedOptions options;
+  options.schema_version = kSchemaVersion;
+  return EmbeddedDatabase::Open(LargeFolder() / name, options);
+}
+
 void Check(int code, sqlite3* database) {
   if (code != SQLITE_OK) throw std::runtime_error(sqlite3_errmsg(database));
 }
@@ -47,9 +53,11 @@ std::filesystem::path LargeFolder() {
 }
 
 std::unique_ptr<EmbeddedDatabase> OpenLarge() {
-  EmbeddedOptions options;
-  options.schema_version = kSchemaVersion;
-  return EmbeddedDatabase::Open(LargeFolder() / "ZQR.db", options);
+  return OpenFile("ZQR.db");
+}
+
+std::unique_ptr<EmbeddedDatabase> OpenLargeHospital() {
+  return OpenFile("ward.db");
 }
 
 ByHand::ByHand() {

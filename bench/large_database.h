@@ -17,6 +17,9 @@ std::filesystem::path LargeFolder();
 /// The screening database of that folder, opened as the program opens it.
 std::unique_ptr<EmbeddedDatabase> OpenLarge();
 
+/// The hospital records database of that folder.
+std::unique_ptr<EmbeddedDatabase> OpenLargeHospital();
+
 /// The same file by hand, through the C API of SQLite, with the settings of the program.
 class ByHand {
  public:
