@@ -51,13 +51,9 @@ void frmchildrecord::FillPlaces() {
   FillOldCenters(database(), Combo1);
 }
 
-void frmchildrecord::FocusFirst() {
-  Combo14->SetFocus();
-}
-
 void frmchildrecord::AfterSave() {
   Command7.SetEnabled(true);
-  Combo12.SetFocus();
+  Command12.SetFocus();
 }
 
 void frmchildrecord::PickType() {

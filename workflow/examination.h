@@ -15,7 +15,6 @@ class frmchildrecord : public ExaminationForm {
   SqlText WaitingChildren() override;
   SqlText RecordInsert() override;
   void AfterSave() override;
-  void FocusFirst() override;
 
  private:
   TextBox Text1{*this, "Text1", ""};

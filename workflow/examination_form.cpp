@@ -76,7 +76,7 @@ void ExaminationForm::Add() {
   Command6.SetEnabled(false);
   Command12.SetEnabled(true);
   ResetSpectacleLabel();
-  FocusFirst();
+  (Combo14 ? *Combo14 : Combo12).SetFocus();
 }
 
 void ExaminationForm::List() {

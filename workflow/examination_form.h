@@ -94,8 +94,6 @@ class ExaminationForm : public Form {
   virtual SqlText RecordInsert() = 0;
   /// The state of the form after a save.
   virtual void AfterSave() = 0;
-  /// Where the entry begins.
-  virtual void FocusFirst() = 0;
   virtual void EmptyBox();
 
   void OnLoad();

@@ -33,10 +33,6 @@ void Form2::FillPlaces() {
   FillLocations(database(), Combo12);
 }
 
-void Form2::FocusFirst() {
-  Combo12.SetFocus();
-}
-
 void Form2::AfterSave() {
   Command6.SetEnabled(true);
   Command7.SetEnabled(true);

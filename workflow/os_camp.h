@@ -15,7 +15,6 @@ class Form2 : public ExaminationForm {
   SqlText WaitingChildren() override;
   SqlText RecordInsert() override;
   void AfterSave() override;
-  void FocusFirst() override;
   void EmptyBox() override;
 
  private:

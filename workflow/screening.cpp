@@ -176,12 +176,13 @@ void frmscreened::GetList() {
   SqlText waiting;
   if (const auto center = CenterCodeOfType(database(), location, Combo5)) waiting = WaitingAt(*center);
   Recordset children = database().Execute(waiting);
-  Combo2.Clear();
   if (children.Eof()) {
     Tell(machine(), {"No Any Enrolled Child", "OVD", MessageIcon::kCritical});
+    Combo2.Clear();
     Command4.SetEnabled(false);
     return;
   }
+  Combo2.Clear();
   for (; !children.Eof(); children.MoveNext()) Combo2.AddItem(Trim(children["Enroll_No"]));
   Command4.SetEnabled(true);
   Command7.SetEnabled(false);
@@ -243,7 +244,7 @@ void frmscreened::Screened() {
 }
 
 void frmscreened::SaveScreenedChild() {
-  const auto cell = [this](int column) { return quoted(Trim(BatchCell(column))); };
+  const auto cell = [this](int column) { return quoted(BatchCell(column)); };
   const std::string type = GetTypeCode();
   const std::string user = module_.GetUserCode();
   database().Execute(sql(

@@ -19,6 +19,7 @@ constexpr Detail kDetails[] = {
 }  // namespace
 
 void ShowChildDetails(Connection& connection, std::string_view enroll_no, Grid& grid) {
+  grid.SetRows(grid.fixed_rows());
   const Recordset child = connection.Execute(sql(
       "select Child_Name,fName,Age,Gender,Class,b.Block_Name,c.District_Name,d.State_Name,e.Country_Name "
       "from "
@@ -26,7 +27,6 @@ void ShowChildDetails(Connection& connection, std::string_view enroll_no, Grid& 
       " where Enroll_No=", quoted(Trim(enroll_no)),
       " and a.Block_Code=b.Block_COde and a.District_Code=c.District_Code and a.State_Code=d.State_Code and "
       "a.Country_Code=e.Country_Code"));
-  grid.SetRows(grid.fixed_rows());
   WriteChildDetails(child, grid);
 }
 

@@ -8,8 +8,8 @@
 
 namespace ovindra {
 
-/// Reads the child with its block, district, state and country and writes the nine rows below the grid's
-/// header. A number that finds no such child leaves the header alone and is error 3021.
+/// Cuts the grid down to its header, reads the child with its block, district, state and country and writes
+/// the nine rows. A number that finds no such child leaves the header alone and is error 3021.
 void ShowChildDetails(Connection& connection, std::string_view enroll_no, Grid& grid);
 
 /// The nine rows from a row that has been read.
