@@ -14,6 +14,7 @@
 #include "platform/desktop/binder/keys.h"
 #include "platform/desktop/binder/make_binding.h"
 #include "platform/desktop/binder/text.h"
+#include "platform/desktop/binder/totals.h"
 
 namespace ovindra::desktop {
 namespace {
@@ -46,6 +47,7 @@ void FormView::Build() {
   if (auto* panel = dynamic_cast<FormPanel*>(root_.data())) panel->SetView(*this);
   Tie();
   PlaceCards(*root_);
+  PlaceTotals(*root_);
 }
 
 void FormView::Tie() {

@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
+#include <QScrollBar>
+#include <QTableView>
 #include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
 
 #include "app/forms.h"
+#include "base/controls/grid.h"
 #include "desk.h"
 #include "platform/desktop/binder/form_file.h"
 #include "platform/desktop/binder/text.h"
@@ -89,6 +92,31 @@ TEST_P(FormFiles, ItFitsTheSmallestScreenAndNothingIsCut) {
     EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << which;
   }
 }
+
+class StrengthEntry : public FormFiles {};
+
+TEST_P(StrengthEntry, TheTotalsStandUnderTheirColumns) {
+  auto& classes = dynamic_cast<Grid&>(*form_->Find("MSFlexGrid1"));
+  constexpr int kMoreThanFit = 20;
+  for (int row = 0; row < kMoreThanFit; ++row) classes.AddItem("LKG\t120\t115\t235");
+  view_->root()->resize(view_->root()->sizeHint());
+  view_->root()->show();
+  view_->ShowChanges();
+  QApplication::processEvents();
+  auto& grid = *view_->root()->findChild<QTableView*>("MSFlexGrid1");
+  ASSERT_TRUE(grid.verticalScrollBar()->isVisible());
+  int column = 1;
+  for (const char* name : {"Text6", "Text5", "Text4"}) {
+    const QWidget& total = *view_->root()->findChild<QWidget*>(name);
+    const int right = grid.viewport()->mapTo(view_->root(), QPoint()).x() +
+                      grid.columnViewportPosition(column) + grid.columnWidth(column);
+    EXPECT_EQ(total.mapTo(view_->root(), QPoint(total.width(), 0)).x(), right) << name;
+    EXPECT_LT(total.width(), grid.columnWidth(column)) << name;
+    ++column;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(One, StrengthEntry, testing::Values("frmNew"));
 
 std::vector<std::string> FormNames() {
   std::vector<std::string> names;
