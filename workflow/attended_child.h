@@ -16,9 +16,9 @@ class frmattend : public Form {
   explicit frmattend(Module1& module);
 
  private:
-  Button Command1{*this, "Command1", "Add"};
   TextBox Text1{*this, "Text1", "Enter Enroll No.", Disabled};
   TextBox Text2{*this, "Text2", "Mr. No.", Disabled};
+  Button Command1{*this, "Command1", "Add"};
   Button Command2{*this, "Command2", "Ca&ncel"};
   Frame Frame1{*this, "Frame1", "Child Details"};
   Grid MSFlexGrid1{Frame1, "MSFlexGrid1", {"", ""}};

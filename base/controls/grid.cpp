@@ -154,6 +154,10 @@ void Grid::DoKey(Key key) {
     case KeyName::kUp:
       UserMoveTo(row_ - 1, column_);
       break;
+    case KeyName::kSpace:
+      Control::DoKey(key);
+      UserClickCell(row_, column_);
+      break;
     default:
       Control::DoKey(key);
   }

@@ -73,6 +73,7 @@ class Grid : public Control {
 
  protected:
   void DoClick() override {}
+  /// Up and Down move; Space clicks the current cell, so that a list can be worked without a mouse.
   void DoKey(Key key) override;
 
  private:

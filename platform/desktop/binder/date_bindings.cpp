@@ -46,8 +46,13 @@ void DateBinding::Commit() {
 }
 
 bool DateBinding::KeyPressed(QKeyEvent& event) {
+  // The toolkit's Tab would only go from the day to the month.
+  if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) {
+    view().UserTab(event.key() == Qt::Key_Backtab);
+    return true;
+  }
   const auto key = KeyOf(event);
-  if (!key || key->name == KeyName::kTab) return false;
+  if (!key) return false;
   if (key->name == KeyName::kEnter) Commit();
   if (!Act([&] { control().UserKey(*key); })) return true;
   return key->name == KeyName::kEnter || key->name == KeyName::kF8 || key->name == KeyName::kF9;

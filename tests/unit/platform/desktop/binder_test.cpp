@@ -243,7 +243,7 @@ TEST(GridOnTheScreen, AHeadingIsDoubleClickedWithoutAClick) {
   EXPECT_EQ(form.MSFlexGrid1.mouse_column(), 1);
 }
 
-TEST(GridOnTheScreen, TheMouseMovesAndClicksTheKeysOnlyMove) {
+TEST(GridOnTheScreen, TheMouseMovesAndClicksTheArrowsMoveSpaceClicks) {
   Desk desk;
   frmdesk& form = desk.form();
   form.Note(form.MSFlexGrid1.click, "click");
@@ -256,6 +256,9 @@ TEST(GridOnTheScreen, TheMouseMovesAndClicksTheKeysOnlyMove) {
   desk.Key(Qt::Key_Up);
   EXPECT_EQ(form.happened, Happened{"moved"});
   EXPECT_EQ(form.MSFlexGrid1.row(), 1);
+  form.happened.clear();
+  desk.Key(Qt::Key_Space);
+  EXPECT_EQ(form.happened, Happened{"click"});
   form.happened.clear();
   DoubleClick(*grid.viewport(), Middle(grid, 0, 0));
   EXPECT_EQ(form.happened, (Happened{"click", "double"}));
@@ -309,6 +312,18 @@ TEST(Dates, AHalfTypedDateIsHandedOverBeforeTheNextStep) {
   EXPECT_EQ(MonthFirst(form.DTPicker1.value()), "05/31/2016");
   desk.Key(Qt::Key_S, Qt::AltModifier);
   EXPECT_EQ(form.happened, Happened{"05/24/2016"});
+}
+
+TEST(Dates, TabLeavesThePicker) {
+  Desk desk;
+  frmdesk& form = desk.form();
+  desk.Do([&] { form.DTPicker1.SetFocus(); });
+  desk.Type("24");
+  desk.Key(Qt::Key_Tab);
+  EXPECT_EQ(MonthFirst(form.DTPicker1.value()), "05/24/2016");
+  EXPECT_TRUE(desk.IsFocused(form.Command1));
+  desk.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(desk.IsFocused(form.DTPicker1));
 }
 
 TEST(Dates, TheCalendarIsWalkedByKeysAndPutAway) {
