@@ -34,14 +34,27 @@ std::string PadString(std::string_view text, std::size_t width, char pad) {
 }
 
 bool Matches(std::string_view text, std::string_view pattern) {
-  const std::size_t star = pattern.find('*');
-  if (star == std::string_view::npos) return text == pattern;
-  if (!text.starts_with(pattern.substr(0, star))) return false;
-  const std::string_view rest = pattern.substr(star + 1);
-  for (std::size_t at = star; at <= text.size(); ++at) {
-    if (Matches(text.substr(at), rest)) return true;
+  constexpr std::size_t kNone = std::string_view::npos;
+  std::size_t at = 0;
+  std::size_t wanted = 0;
+  // Behind the last star, and how much of the text that star has taken: going back to it alone is enough.
+  std::size_t behind_star = kNone;
+  std::size_t taken = 0;
+  while (at < text.size()) {
+    if (wanted < pattern.size() && pattern[wanted] == '*') {
+      behind_star = ++wanted;
+      taken = at;
+    } else if (wanted < pattern.size() && pattern[wanted] == text[at]) {
+      ++wanted;
+      ++at;
+    } else if (behind_star != kNone) {
+      wanted = behind_star;
+      at = ++taken;
+    } else {
+      return false;
+    }
   }
-  return false;
+  return pattern.find_first_not_of('*', wanted) == kNone;
 }
 
 }  // namespace ovindra

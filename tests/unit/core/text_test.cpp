@@ -34,6 +34,14 @@ TEST(TextFunctions, MatchingTellsCasesApart) {
   EXPECT_TRUE(Matches("abcabd", "a*b*d"));
   EXPECT_FALSE(Matches("abc", "abcd*"));
   EXPECT_TRUE(Matches("", "*"));
+  EXPECT_TRUE(Matches("abcab", "a*b"));
+}
+
+TEST(TextFunctions, ManyStarsTakeNoLongerThanOne) {
+  const std::string name(100, 'A');
+  const std::string stars(50, '*');
+  EXPECT_TRUE(Matches(name, stars + "A" + stars));
+  EXPECT_FALSE(Matches(name, stars + "X" + stars));
 }
 
 }  // namespace
