@@ -42,6 +42,7 @@ class ExaminationForm : public Form {
  protected:
   ExaminationForm(Module1& module, const ExaminationKind& kind);
 
+  Button Command6{*this, "Command6", "&Add"};
   std::unique_ptr<ComboBox> Combo14;  // the programme, where the kind has one
   ComboBox Combo12{*this, "Combo12", "Type", DropDownList};
   ComboBox Combo1;
@@ -82,7 +83,6 @@ class ExaminationForm : public Form {
   OptionButton Option2{Frame7, "Option2", "Free"};
   Button Command10{Frame7, "Command10", "&Ok"};
   Button Command11{Frame7, "Command11", "Cancel"};
-  Button Command6{*this, "Command6", "&Add"};
   Button Command8{*this, "Command8", "&Save", Disabled};
   Button Command7{*this, "Command7", "Ca&ncel", Disabled};
 
