@@ -41,8 +41,7 @@ bool IsGo(std::string_view line) {
 }
 
 void RunBatch(Session& session, std::string_view batch) {
-  if (batch.find_first_not_of(" \t\r\n;") != std::string_view::npos)
-    session.Run(WholeStatement(batch));
+  if (batch.find_first_not_of(" \t\r\n;") != std::string_view::npos) session.Run(WholeStatement(batch));
 }
 
 }  // namespace
