@@ -9,6 +9,8 @@
 #include <string_view>
 
 #include "base/date.h"
+#include "base/workbook/document.h"
+#include "base/workbook/workbook.h"
 
 namespace ovindra {
 
@@ -71,6 +73,43 @@ class Calculator {
   virtual void Start() = 0;
 };
 
+/// Paths are the program's own texts, as `C:\Enroll.xls`; where a machine has no drives, the drive is the
+/// user's documents folder.
+class WorkbookFiles {
+ public:
+  virtual ~WorkbookFiles() = default;
+  /// Saves the workbook, replacing any file there: as an Excel 97 workbook, or as an Office Open XML one
+  /// where the path ends in `.xlsx`. Error 75 for an empty path or one that can't be written, with nothing
+  /// lost.
+  virtual void Write(const Workbook& workbook, std::string_view path) = 0;
+};
+
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  /// Prints the sheet by its page setup, on the printer that was last asked for.
+  virtual void Print(const Workbook& workbook) = 0;
+};
+
+class SpreadsheetApplication {
+ public:
+  virtual ~SpreadsheetApplication() = default;
+  /// Error 429 when the machine has none.
+  virtual void StartSpreadsheet() = 0;
+  /// Leaves the workbook open in it for the person to save.
+  virtual void ShowWorkbook(const Workbook& workbook) = 0;
+  virtual void CloseWorkbooks() = 0;
+};
+
+class WordProcessor {
+ public:
+  virtual ~WordProcessor() = default;
+  /// Error 429 when the machine has none.
+  virtual void StartWordProcessor() = 0;
+  /// Saves the document, replacing any file there. Error 75 when it can't be written.
+  virtual void SaveDocument(const Document& document, std::string_view path) = 0;
+};
+
 /// All services together; whoever makes the program owns them.
 struct Machine {
   MessageBox& message_box;
@@ -79,6 +118,10 @@ struct Machine {
   Clock& clock;
   ProgramFolder& program_folder;
   Calculator& calculator;
+  WorkbookFiles& workbook_files;
+  Printer& printer;
+  SpreadsheetApplication& spreadsheet;
+  WordProcessor& word_processor;
 };
 
 }  // namespace ovindra

@@ -69,6 +69,30 @@ std::optional<std::string> RecordingMachine::FirstLine(std::string_view name) co
   return file == program_files_.end() ? std::nullopt : file->second;
 }
 
+void RecordingMachine::Write(const Workbook&, std::string_view path) {
+  RequireWritable(path);
+  written_files_.emplace_back(path);
+}
+
+void RecordingMachine::Print(const Workbook& workbook) {
+  ++prints_;
+  last_print_ = workbook.page_setup;
+}
+
+void RecordingMachine::SaveDocument(const Document& document, std::string_view path) {
+  RequireWritable(path);
+  written_files_.emplace_back(path);
+  saved_document_ = document;
+}
+
+void RecordingMachine::RequireApplication(std::string_view name) const {
+  if (missing_applications_.contains(std::string(name))) throw CannotCreateObject();
+}
+
+void RecordingMachine::RequireWritable(std::string_view path) const {
+  if (path.empty() || unwritable_.contains(std::string(path))) throw PathFileAccess();
+}
+
 bool RecordingMachine::Has(std::string_view name) const {
   return program_files_.contains(FileKey(name));
 }

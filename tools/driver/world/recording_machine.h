@@ -22,7 +22,11 @@ class RecordingMachine : private MessageBox,
                          private Dialogs,
                          private Clock,
                          private ProgramFolder,
-                         private Calculator {
+                         private Calculator,
+                         private WorkbookFiles,
+                         private Printer,
+                         private SpreadsheetApplication,
+                         private WordProcessor {
  public:
   RecordingMachine(Player& player, Trace& trace) : player_(player), trace_(trace) {}
 
@@ -53,9 +57,13 @@ class RecordingMachine : private MessageBox,
   /// program's own text.
   const std::vector<std::string>& written_files() const { return written_files_; }
   int prints() const { return prints_; }
-  void RecordWrittenFile(std::string path) { written_files_.push_back(std::move(path)); }
-  void RecordPrint() { ++prints_; }
   void ForgetPapers();
+
+  /// The page setup of the last print.
+  const std::optional<PageSetup>& last_print() const { return last_print_; }
+  /// What the spreadsheet application and the word processor were last handed.
+  const std::optional<Workbook>& shown_workbook() const { return shown_workbook_; }
+  const std::optional<Document>& saved_document() const { return saved_document_; }
 
  private:
   Answer Show(const Message& message) override;
@@ -66,10 +74,20 @@ class RecordingMachine : private MessageBox,
   std::optional<std::string> FirstLine(std::string_view name) const override;
   bool Has(std::string_view name) const override;
   void Start() override { calculator_was_started_ = true; }
+  void Write(const Workbook& workbook, std::string_view path) override;
+  void Print(const Workbook& workbook) override;
+  void StartSpreadsheet() override { RequireApplication("spreadsheet"); }
+  void ShowWorkbook(const Workbook& workbook) override { shown_workbook_ = workbook; }
+  void CloseWorkbooks() override {}
+  void StartWordProcessor() override { RequireApplication("word-processor"); }
+  void SaveDocument(const Document& document, std::string_view path) override;
+
+  void RequireApplication(std::string_view name) const;
+  void RequireWritable(std::string_view path) const;
 
   Player& player_;
   Trace& trace_;
-  Machine services_{*this, *this, *this, *this, *this, *this};
+  Machine services_{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
 
   Date today_{std::chrono::year(2016), std::chrono::May, std::chrono::day(31)};
   std::chrono::minutes time_{std::chrono::hours(10) + std::chrono::minutes(15)};
@@ -85,6 +103,9 @@ class RecordingMachine : private MessageBox,
   std::set<std::string> missing_applications_;
   std::vector<std::string> written_files_;
   int prints_ = 0;
+  std::optional<PageSetup> last_print_;
+  std::optional<Workbook> shown_workbook_;
+  std::optional<Document> saved_document_;
   bool calculator_was_started_ = false;
 };
 

@@ -14,7 +14,11 @@ class QuietMachine : public MessageBox,
                      public Dialogs,
                      public Clock,
                      public ProgramFolder,
-                     public Calculator {
+                     public Calculator,
+                     public WorkbookFiles,
+                     public Printer,
+                     public SpreadsheetApplication,
+                     public WordProcessor {
  public:
   Answer Show(const Message& message) override {
     messages.push_back(message.text);
@@ -27,9 +31,16 @@ class QuietMachine : public MessageBox,
   std::optional<std::string> FirstLine(std::string_view) const override { return {}; }
   bool Has(std::string_view) const override { return false; }
   void Start() override {}
+  void Write(const Workbook&, std::string_view) override {}
+  void Print(const Workbook&) override {}
+  void StartSpreadsheet() override {}
+  void ShowWorkbook(const Workbook&) override {}
+  void CloseWorkbooks() override {}
+  void StartWordProcessor() override {}
+  void SaveDocument(const Document&, std::string_view) override {}
 
   std::vector<std::string> messages;
-  Machine services{*this, *this, *this, *this, *this, *this};
+  Machine services{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
 };
 
 /// The events of a test's controls, in the order in which they fired.

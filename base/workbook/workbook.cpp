@@ -1,0 +1,126 @@
+#include "base/workbook/workbook.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace ovindra {
+namespace {
+
+std::size_t Place(int number) {
+  assert(number >= 1);
+  return static_cast<std::size_t>(number) - 1;
+}
+
+/// The value for a key, or what holds where none was set.
+template <typename Value>
+Value ValueOr(const std::map<int, Value>& values, int key, Value otherwise) {
+  const auto found = values.find(key);
+  return found == values.end() ? otherwise : found->second;
+}
+
+}  // namespace
+
+Workbook::Workbook() : styles_(1) {}
+
+int Workbook::last_row() const {
+  const auto last = std::find_if(rows_.rbegin(), rows_.rend(), [](const Row& row) { return !row.empty(); });
+  return static_cast<int>(rows_.rend() - last);
+}
+
+int Workbook::last_column() const {
+  std::size_t last = 0;
+  for (const Row& row : rows_) last = std::max(last, row.size());
+  return static_cast<int>(last);
+}
+
+std::string_view Workbook::Text(int row, int column) const {
+  const Cell* cell = Find(row, column);
+  return cell == nullptr ? std::string_view{} : std::string_view(cell->text);
+}
+
+void Workbook::SetText(int row, int column, std::string_view text) {
+  At(row, column).text = text;
+}
+
+StyleId Workbook::StyleIdAt(int row, int column) const {
+  const Cell* cell = Find(row, column);
+  return cell == nullptr ? StyleId{0} : cell->style;
+}
+
+void Workbook::Restyle(const CellRange& range, const std::function<void(CellStyle&)>& change) {
+  if (range.last_column < range.first_column) return;
+  std::map<StyleId, StyleId> changed;
+  for (int row = range.first_row; row <= range.last_row; ++row) {
+    At(row, range.last_column);
+    for (int column = range.first_column; column <= range.last_column; ++column) {
+      StyleId& id = At(row, column).style;
+      const auto [known, is_new] = changed.try_emplace(id, id);
+      if (is_new) {
+        CellStyle style = styles_[id];
+        change(style);
+        known->second = IdOf(style);
+      }
+      id = known->second;
+    }
+  }
+}
+
+void Workbook::Clear(const CellRange& range) {
+  const std::size_t end_row = std::min(rows_.size(), static_cast<std::size_t>(std::max(range.last_row, 0)));
+  for (std::size_t place = Place(range.first_row); place < end_row; ++place) {
+    Row& row = rows_[place];
+    const std::size_t first = Place(range.first_column);
+    const auto end = std::min(row.size(), static_cast<std::size_t>(std::max(range.last_column, 0)));
+    if (end == row.size() && first < end) {
+      row.resize(first);
+    } else {
+      for (std::size_t column = first; column < end; ++column) row[column] = Cell{};
+    }
+  }
+}
+
+int Workbook::ColumnWidth(int column) const {
+  return ValueOr(column_widths_, column, kDefaultColumnWidth);
+}
+
+void Workbook::SetColumnWidth(int column, int width) {
+  column_widths_[column] = width;
+}
+
+double Workbook::RowHeight(int row) const {
+  return ValueOr(row_heights_, row, kDefaultRowHeight);
+}
+
+void Workbook::SetRowHeight(int row, double height) {
+  row_heights_[row] = height;
+}
+
+void Workbook::Merge(const CellRange& range) {
+  merges_.push_back(range);
+}
+
+const Workbook::Cell* Workbook::Find(int row, int column) const {
+  const std::size_t row_place = Place(row);
+  if (row_place >= rows_.size()) return nullptr;
+  const std::size_t column_place = Place(column);
+  if (column_place >= rows_[row_place].size()) return nullptr;
+  return &rows_[row_place][column_place];
+}
+
+Workbook::Cell& Workbook::At(int row, int column) {
+  const std::size_t row_place = Place(row);
+  if (row_place >= rows_.size()) rows_.resize(row_place + 1);
+  Row& cells = rows_[row_place];
+  const std::size_t column_place = Place(column);
+  if (column_place >= cells.size()) cells.resize(column_place + 1);
+  return cells[column_place];
+}
+
+StyleId Workbook::IdOf(const CellStyle& style) {
+  const auto found = std::find(styles_.begin(), styles_.end(), style);
+  if (found != styles_.end()) return static_cast<StyleId>(found - styles_.begin());
+  styles_.push_back(style);
+  return static_cast<StyleId>(styles_.size() - 1);
+}
+
+}  // namespace ovindra
