@@ -6,6 +6,7 @@
 
 #include "app/data_sources.h"
 #include "app/forms.h"
+#include "app/office_services.h"
 #include "platform/desktop/desktop.h"
 #include "platform/desktop/theme/theme.h"
 
@@ -58,7 +59,9 @@ int main(int argc, char** argv) {
   theme::Apply(application);
   desktop::UseSystemShortDateForm();
   FileDataSources sources(line.folders);
-  desktop::Desktop windows;
+  PaperFiles papers;
+  DesktopSpreadsheet spreadsheet;
+  desktop::Desktop windows({papers, spreadsheet, papers});
   Program program(windows.machine(), sources, AllForms());
   if (line.ends_at_login) {
     QTimer::singleShot(0, [&] { program.Perform([&] { program.End(); }); });

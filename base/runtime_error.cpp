@@ -35,6 +35,9 @@ RuntimeError TextPropertyIsReadOnly() {
 RuntimeError CannotCreateObject() {
   return {429, "ActiveX component can't create object"};
 }
+RuntimeError PrinterError() {
+  return {482, "Printer error"};
+}
 RuntimeError CannotRemoveLastRow() {
   return {30015, "Cannot remove last non-fixed row"};
 }

@@ -34,6 +34,7 @@ RuntimeError InvalidUseOfNull();
 RuntimeError InvalidPropertyValue();
 RuntimeError TextPropertyIsReadOnly();
 RuntimeError CannotCreateObject();
+RuntimeError PrinterError();
 RuntimeError CannotRemoveLastRow();
 
 }  // namespace ovindra

@@ -13,11 +13,20 @@ Message EndMessage(const RuntimeError& error) {
           MessageIcon::kCritical, MessageButtons::kOk};
 }
 
-Desktop::Desktop(ViewSettings settings, QSize main_size)
+Desktop::Desktop(const OfficeServices& office, ViewSettings settings, QSize main_size)
     : settings_(std::move(settings)),
       main_size_(main_size),
       message_box_([this] { ShowChanges(); }),
-      machine_{message_box_, pointer_, dialogs_, clock_, folder_, calculator_} {
+      machine_{message_box_,
+               pointer_,
+               dialogs_,
+               clock_,
+               folder_,
+               calculator_,
+               office.workbook_files,
+               printer_,
+               office.spreadsheet,
+               office.word_processor} {
   if (settings_.pictures.isEmpty()) settings_.pictures = QCoreApplication::applicationDirPath();
 }
 

@@ -15,14 +15,23 @@
 #include "core/startup/program.h"
 #include "platform/desktop/services/desktop_services.h"
 #include "platform/desktop/services/message_box.h"
+#include "platform/desktop/services/sheet_printer.h"
 #include "platform/desktop/windows/form_window.h"
 
 namespace ovindra::desktop {
 
+/// The machine's services for papers that are no matter of windows. Their owner keeps them as long as the
+/// desktop.
+struct OfficeServices {
+  WorkbookFiles& workbook_files;
+  SpreadsheetApplication& spreadsheet;
+  WordProcessor& word_processor;
+};
+
 class Desktop : public QObject, public ProgramObserver {
  public:
   /// `main_size` is the size of the main window, which fills the screen when it is empty.
-  explicit Desktop(ViewSettings settings = {}, QSize main_size = {});
+  explicit Desktop(const OfficeServices& office, ViewSettings settings = {}, QSize main_size = {});
   ~Desktop() override;
 
   /// The services of this machine, for whoever makes the program.
@@ -61,6 +70,7 @@ class Desktop : public QObject, public ProgramObserver {
   SystemClock clock_;
   FolderBesideProgram folder_;
   DesktopCalculator calculator_;
+  SheetPrinter printer_{dialogs_};
   Machine machine_;
   Program* program_ = nullptr;
   std::vector<std::unique_ptr<FormWindow>> windows_;

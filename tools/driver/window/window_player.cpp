@@ -12,6 +12,7 @@
 #include "platform/desktop/binder/text.h"
 #include "tools/driver/window/application.h"
 #include "tools/driver/window_player.h"
+#include "tools/driver/world/world.h"
 
 namespace ovindra::driver {
 namespace {
@@ -53,7 +54,9 @@ WindowPlayer::WindowPlayer(Look look) {
 
 void WindowPlayer::ProgramMade(Program& program) {
   program_ = &program;
+  const Machine& machine = world_->machine().services();
   desktop_ = std::make_unique<desktop::Desktop>(
+      desktop::OfficeServices{machine.workbook_files, machine.spreadsheet, machine.word_processor},
       desktop::ViewSettings{QCoreApplication::applicationDirPath(), desktop::Timers::kStandStill},
       kMainWindow);
   desktop_->Follow(&program);

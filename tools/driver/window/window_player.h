@@ -15,8 +15,8 @@ class WindowPlayer : public Player {
  public:
   explicit WindowPlayer(Look look);
 
-  void EnterWorld(World& /*world*/) override {}
-  void LeaveWorld() override {}
+  void EnterWorld(World& world) override { world_ = &world; }
+  void LeaveWorld() override { world_ = nullptr; }
   void ProgramMade(Program& program) override;
   void ProgramGone() override;
   ProgramObserver* program_observer() override { return desktop_.get(); }
@@ -81,6 +81,7 @@ class WindowPlayer : public Player {
 
   std::unique_ptr<desktop::Desktop> desktop_;
   desktop::WindowPointer pointer_;
+  World* world_ = nullptr;
   Program* program_ = nullptr;
 };
 

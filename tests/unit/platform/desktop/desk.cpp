@@ -14,7 +14,8 @@ namespace ovindra::desktop {
 namespace {
 
 Machine WithBox(MessageBox& box, Machine& of) {
-  return {box, of.pointer, of.dialogs, of.clock, of.program_folder, of.calculator};
+  return {box,           of.pointer,        of.dialogs, of.clock,       of.program_folder,
+          of.calculator, of.workbook_files, of.printer, of.spreadsheet, of.word_processor};
 }
 
 }  // namespace
@@ -48,7 +49,7 @@ Answer LookedAtBox::Show(const Message& message) {
 }
 
 Desk::Desk()
-    : desktop_((UseOffscreenApplication(), ViewSettings{"", Timers::kStandStill})),
+    : desktop_((UseOffscreenApplication(), office_.services()), ViewSettings{"", Timers::kStandStill}),
       machine_(WithBox(box_, desktop_.machine())),
       program_(machine_, sources_, {EntryFor<frmdesk>("frmdesk")}) {
   box_.before = [this] { desktop_.ShowChanges(); };

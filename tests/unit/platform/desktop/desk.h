@@ -27,6 +27,20 @@ namespace ovindra::desktop {
 /// Makes the QApplication at the first call.
 void UseOffscreenApplication();
 
+/// Papers that go nowhere.
+class NoOffice : private WorkbookFiles, private SpreadsheetApplication, private WordProcessor {
+ public:
+  OfficeServices services() { return {*this, *this, *this}; }
+
+ private:
+  void Write(const Workbook&, std::string_view) override {}
+  void StartSpreadsheet() override {}
+  void ShowWorkbook(const Workbook&) override {}
+  void CloseWorkbooks() override {}
+  void StartWordProcessor() override {}
+  void SaveDocument(const Document&, std::string_view) override {}
+};
+
 class frmdesk : public Form {
  public:
   explicit frmdesk(Module1& module);
@@ -96,6 +110,7 @@ class Desk {
   };
 
   LookedAtBox box_;
+  NoOffice office_;
   Desktop desktop_;
   Machine machine_;
   NoSources sources_;

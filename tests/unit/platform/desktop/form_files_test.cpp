@@ -27,7 +27,8 @@ class FormFiles : public testing::TestWithParam<std::string> {
     std::unique_ptr<Session> Connect(std::string_view) override { return nullptr; }
   };
 
-  FormFiles() : desktop_((UseOffscreenApplication(), ViewSettings{"", Timers::kStandStill})) {
+  FormFiles()
+      : desktop_((UseOffscreenApplication(), office_.services()), ViewSettings{"", Timers::kStandStill}) {
     for (const FormEntry& entry : AllForms()) {
       if (entry.name == GetParam()) form_ = entry.make(program_.module());
     }
@@ -37,6 +38,7 @@ class FormFiles : public testing::TestWithParam<std::string> {
     view_->ShowChanges();
   }
 
+  NoOffice office_;
   Desktop desktop_;
   NoSources sources_;
   Program program_{desktop_.machine(), sources_, AllForms()};
