@@ -3,6 +3,7 @@
 #include "core/shell/login.h"
 #include "core/shell/main_window.h"
 #include "core/startup/flash.h"
+#include "reports/consolidation.h"
 #include "workflow/attended_child.h"
 #include "workflow/enrollment.h"
 #include "workflow/examination.h"
@@ -25,6 +26,7 @@ FormList AllForms() {
       EntryFor<frmattend>("frmattend"),
       EntryFor<frmschool_screening>("frmschool_screening"),
       EntryFor<frmNew>("frmNew"),
+      EntryFor<frmconsolidation>("frmconsolidation"),
   };
 }
 

@@ -5,14 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/colour.h"
 #include "base/controls/control.h"
 
 namespace ovindra {
-
-/// A colour as red, green and blue bytes, red lowest.
-using Colour = unsigned;
-inline constexpr Colour kWhite = 0xFFFFFF;
-inline constexpr Colour kRed = 0xFF;
 
 /// Lengths on the splash window are in its own unit of 1/1440 inch.
 using Twips = int;

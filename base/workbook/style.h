@@ -2,23 +2,11 @@
 // writes a cell reads them.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
+#include "base/colour.h"
+
 namespace ovindra {
-
-/// Red in the lowest byte, green in the next, blue in the third.
-using Colour = std::uint32_t;
-
-constexpr std::uint8_t Red(Colour colour) {
-  return static_cast<std::uint8_t>(colour);
-}
-constexpr std::uint8_t Green(Colour colour) {
-  return static_cast<std::uint8_t>(colour >> 8U);
-}
-constexpr std::uint8_t Blue(Colour colour) {
-  return static_cast<std::uint8_t>(colour >> 16U);
-}
 
 struct CellFont {
   std::string name = "TIMES NEW ROMAN";

@@ -10,6 +10,15 @@ void Fill(Connection& connection, const SqlText& statement, std::string_view fie
   for (; !rows.Eof(); rows.MoveNext()) list.AddItem(Trim(rows[field]));
 }
 
+template <typename List>
+void FillWithData(Connection& connection, const SqlText& statement, std::string_view field,
+                  std::string_view data_field, List& list) {
+  Recordset rows = connection.Execute(statement);
+  list.Clear();
+  for (; !rows.Eof(); rows.MoveNext())
+    list.AddItem(Trim(rows[field]), static_cast<long>(rows[data_field].AsInteger()));
+}
+
 }  // namespace
 
 void FillList(Connection& connection, const SqlText& statement, std::string_view field, ComboBox& list) {
@@ -22,10 +31,12 @@ void FillList(Connection& connection, const SqlText& statement, std::string_view
 
 void FillListWithData(Connection& connection, const SqlText& statement, std::string_view field,
                       std::string_view data_field, ListBox& list) {
-  Recordset rows = connection.Execute(statement);
-  list.Clear();
-  for (; !rows.Eof(); rows.MoveNext())
-    list.AddItem(Trim(rows[field]), static_cast<long>(rows[data_field].AsInteger()));
+  FillWithData(connection, statement, field, data_field, list);
+}
+
+void FillListWithData(Connection& connection, const SqlText& statement, std::string_view field,
+                      std::string_view data_field, ComboBox& list) {
+  FillWithData(connection, statement, field, data_field, list);
 }
 
 void FillGrid(Connection& connection, const SqlText& statement,

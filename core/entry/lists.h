@@ -19,6 +19,8 @@ void FillList(Connection& connection, const SqlText& statement, std::string_view
 /// The same with a number of the row beside each entry.
 void FillListWithData(Connection& connection, const SqlText& statement, std::string_view field,
                       std::string_view data_field, ListBox& list);
+void FillListWithData(Connection& connection, const SqlText& statement, std::string_view field,
+                      std::string_view data_field, ComboBox& list);
 
 /// Cuts the grid down to its header and adds a row for each of the statement's rows, from the given fields,
 /// trimmed.

@@ -67,6 +67,9 @@ inline constexpr Lookup kScreenedByType{
 inline constexpr Lookup kLocation{
     "Select Location_ID from Location_Master where Location_Name=", Match::kExact, "Location_ID"};
 
+inline constexpr Lookup kProgramme{
+    "Select Programme_Code from Programme_Master where Programme_Name=", Match::kExact, "Programme_Code"};
+
 }  // namespace lookup
 
 /// The trimmed code of the name in the control.

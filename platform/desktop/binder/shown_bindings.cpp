@@ -13,9 +13,7 @@ namespace {
 constexpr Twips kTwipsInPixel = 15;
 
 QColor ToQt(Colour colour) {
-  constexpr unsigned kByte = 0xFF;
-  return {static_cast<int>(colour & kByte), static_cast<int>(colour >> 8 & kByte),
-          static_cast<int>(colour >> 16 & kByte)};
+  return {RedOf(colour), GreenOf(colour), BlueOf(colour)};
 }
 
 /// The largest picture of the file, which may hold several.

@@ -1,0 +1,83 @@
+#include "base/workbook/text_fit.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "base/text/utf8.h"
+
+namespace ovindra {
+namespace {
+
+constexpr char32_t kFirstMeasured = U' ';
+
+/// Times Roman from the blank to the tilde, in thousandths of the font's size.
+constexpr std::array<std::uint16_t, 95> kWidths = {
+    250, 333, 408, 500, 500, 833, 778, 180, 333, 333, 500, 564, 250, 333, 250, 278, 500, 500, 500,
+    500, 500, 500, 500, 500, 500, 500, 278, 278, 564, 564, 564, 444, 921, 722, 667, 667, 722, 611,
+    556, 722, 722, 333, 389, 722, 611, 889, 722, 722, 556, 722, 667, 556, 611, 722, 722, 944, 722,
+    722, 611, 333, 278, 333, 469, 500, 333, 444, 500, 444, 500, 444, 333, 500, 500, 278, 278, 500,
+    278, 778, 500, 500, 500, 500, 333, 389, 278, 500, 500, 722, 500, 500, 444, 480, 200, 480, 541};
+
+/// A letter that the table does not hold is taken for a wide one.
+constexpr int kOtherWidth = 722;
+constexpr double kBoldFactor = 1.08;
+constexpr double kLineFactor = 1.25;
+
+/// What a column's unit of one character is in points: the digit of the sheet's own font, 10 points of Times.
+constexpr double kPointsPerCharacter = 5;
+constexpr int kUnitsPerCharacter = 256;
+/// The room that a cell leaves on both sides of its text, in characters.
+constexpr double kPadding = 1.2;
+
+int WidthOf(char32_t character) {
+  if (character < kFirstMeasured) return 0;
+  const std::size_t place = character - kFirstMeasured;
+  return place < kWidths.size() ? kWidths[place] : kOtherWidth;
+}
+
+int LinesIn(std::string_view text, const CellStyle& style, int column_width) {
+  if (!style.alignment.wrapped) return 1;
+  const double room =
+      std::max(1.0, static_cast<double>(column_width) / kUnitsPerCharacter - kPadding) * kPointsPerCharacter;
+  return std::max(1, static_cast<int>(std::ceil(TextWidth(text, style.font) / room)));
+}
+
+}  // namespace
+
+double TextWidth(std::string_view text, const CellFont& font) {
+  double thousandths = 0;
+  for (const char32_t character : Characters(text)) thousandths += WidthOf(character);
+  return thousandths / 1000 * font.size * (font.bold ? kBoldFactor : 1);
+}
+
+void FitColumnWidths(Workbook& workbook, const CellRange& range) {
+  const int last_row = std::min(range.last_row, workbook.last_row());
+  for (int column = range.first_column; column <= range.last_column; ++column) {
+    double widest = 0;
+    for (int row = range.first_row; row <= last_row; ++row) {
+      const std::string_view text = workbook.Text(row, column);
+      if (!text.empty()) widest = std::max(widest, TextWidth(text, workbook.Style(row, column).font));
+    }
+    if (widest == 0) continue;
+    workbook.SetColumnWidth(column, static_cast<int>(std::lround((widest / kPointsPerCharacter + kPadding) *
+                                                                 kUnitsPerCharacter)));
+  }
+}
+
+void FitRowHeights(Workbook& workbook, const CellRange& range) {
+  const int last_row = std::min(range.last_row, workbook.last_row());
+  for (int row = range.first_row; row <= last_row; ++row) {
+    double highest = Workbook::kDefaultRowHeight;
+    for (int column = range.first_column; column <= range.last_column; ++column) {
+      const std::string_view text = workbook.Text(row, column);
+      if (text.empty()) continue;
+      const CellStyle& style = workbook.Style(row, column);
+      highest = std::max(highest,
+                         LinesIn(text, style, workbook.ColumnWidth(column)) * style.font.size * kLineFactor);
+    }
+    workbook.SetRowHeight(row, highest);
+  }
+}
+
+}  // namespace ovindra
