@@ -1,0 +1,20 @@
+// UTF-16, in which office files count and keep their characters.
+#pragma once
+
+#include <cstdint>
+
+namespace ovindra::office {
+
+/// Hands the one or two UTF-16 units of a character to `take`.
+template <typename Take>
+void ForEachUtf16Unit(char32_t character, Take take) {
+  if (character < 0x10000) {
+    take(static_cast<std::uint16_t>(character));
+    return;
+  }
+  const char32_t above = character - 0x10000;
+  take(static_cast<std::uint16_t>(0xD800 + (above >> 10U)));
+  take(static_cast<std::uint16_t>(0xDC00 + (above & 0x3FFU)));
+}
+
+}  // namespace ovindra::office
