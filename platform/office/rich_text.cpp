@@ -20,6 +20,10 @@ void AppendUnicode(std::string& out, char32_t character) {
 
 void AppendCharacterAsRichText(std::string& out, char32_t character) {
   switch (character) {
+    case U' ':
+      // LibreOffice reads plain blanks beside one another as blanks of another width
+      out += out.ends_with(' ') ? "\\u32?" : " ";
+      return;
     case U'\r':
       return;
     case U'\n':

@@ -6,11 +6,11 @@
 #include <gsf/gsf-outfile-msole.h>
 #include <gsf/gsf-outfile.h>
 #include <gsf/gsf-output-stdio.h>
-#include <gsf/gsf-utils.h>
 
 #include "base/runtime_error.h"
 #include "platform/office/biff/workbook_stream.h"
 #include "platform/office/file_handle.h"
+#include "platform/office/gsf_library.h"
 #include "platform/office/limits.h"
 
 namespace ovindra::office {
@@ -54,16 +54,11 @@ class StreamSink : public ByteSink {
   GsfOutput* stream_;
 };
 
-void StartLibrary() {
-  static const bool started = (gsf_init(), true);
-  static_cast<void>(started);
-}
-
 }  // namespace
 
 void WriteXls(const Workbook& workbook, const std::filesystem::path& file) {
   RequireWithin(workbook, kXlsLimits);
-  StartLibrary();
+  StartGsf();
   const FileHandle out = OpenFile(file, "w+b");
   Require(out != nullptr);
   const Output bytes(gsf_output_stdio_new_FILE(file.c_str(), out.get(), TRUE));
@@ -73,8 +68,7 @@ void WriteXls(const Workbook& workbook, const std::filesystem::path& file) {
   StreamSink sink(stream.get());
   WriteWorkbookStream(workbook, sink);
   Close(stream);
-  Close(compound);
-  Close(bytes);
+  Close(compound);  // and with it the bytes beneath
   Require(std::fflush(out.get()) == 0);
 }
 

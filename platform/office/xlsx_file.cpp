@@ -6,10 +6,14 @@
 #include <string>
 #include <vector>
 
+#include <gsf/gsf-infile-zip.h>
+#include <gsf/gsf-infile.h>
+#include <gsf/gsf-input-stdio.h>
 #include <xlsxwriter.h>
 
 #include "base/runtime_error.h"
 #include "base/text/utf8.h"
+#include "platform/office/gsf_library.h"
 #include "platform/office/limits.h"
 
 namespace ovindra::office {
@@ -68,7 +72,7 @@ void SetBorder(lxw_format* format, const CellBorder& border) {
 /// Writes row by row: the library keeps only the current one.
 class XlsxWriter {
  public:
-  XlsxWriter(const Workbook& workbook, const std::filesystem::path& file) : workbook_(workbook) {
+  XlsxWriter(const Workbook& workbook, const std::filesystem::path& file) : workbook_(workbook), file_(file) {
     lxw_workbook_options options{};
     options.constant_memory = AllMergesAreInOneRow() ? LXW_TRUE : LXW_FALSE;
     options.use_zip64 = LXW_TRUE;
@@ -86,6 +90,7 @@ class XlsxWriter {
     WriteProtection();
     RequireRowsOnDisk();
     Require(workbook_close(book_.release()));
+    RequireWholeSheet();
   }
 
  private:
@@ -125,7 +130,6 @@ class XlsxWriter {
   }
 
   void WriteRows() {
-    worksheet_set_default_row(sheet_, Workbook::kDefaultRowHeight, LXW_FALSE);
     const int rows = std::max(workbook_.last_row(),
                               workbook_.row_heights().empty() ? 0 : workbook_.row_heights().rbegin()->first);
     const int columns = workbook_.last_column();
@@ -192,13 +196,45 @@ class XlsxWriter {
     worksheet_protect(sheet_, workbook_.protection()->c_str(), &options);
   }
 
-  /// The library keeps rows in a temporary file and does not ask whether that could be written.
+  /// The library keeps the rows in a temporary file, then copies them into another, and asks of neither
+  /// whether it could be written. So we do: here of the first, below of the second by what has come of it.
   void RequireRowsOnDisk() const {
     std::FILE* rows = sheet_->optimize_tmpfile;
     if (rows != nullptr && (std::fflush(rows) != 0 || std::ferror(rows) != 0)) throw PathFileAccess();
   }
 
+  void RequireWholeSheet() const {
+    StartGsf();
+    const GObjectHandle<GsfInput> bytes(gsf_input_stdio_new(file_.c_str(), nullptr));
+    if (bytes == nullptr) throw PathFileAccess();
+    const GObjectHandle<GsfInfile> zip(gsf_infile_zip_new(bytes.get(), nullptr));
+    if (zip == nullptr) throw PathFileAccess();
+    const GObjectHandle<GsfInput> sheet(
+        gsf_infile_child_by_vname(zip.get(), "xl", "worksheets", "sheet1.xml", nullptr));
+    if (sheet == nullptr || !EndOf(sheet.get()).ends_with("</worksheet>")) throw PathFileAccess();
+  }
+
+  /// The last bytes of a packed file, which can only be read from its beginning.
+  static std::string EndOf(GsfInput* input) {
+    constexpr gsf_off_t kPiece = 1 << 16;
+    std::string end;
+    while (gsf_input_remaining(input) > 0) {
+      const gsf_off_t size = std::min(kPiece, gsf_input_remaining(input));
+      const guint8* piece = gsf_input_read(input, static_cast<std::size_t>(size), nullptr);
+      if (piece == nullptr) return {};
+      const std::string_view text(reinterpret_cast<const char*>(piece), static_cast<std::size_t>(size));
+      constexpr std::size_t kKept = 64;
+      if (text.size() >= kKept) {
+        end = text.substr(text.size() - kKept);
+      } else {
+        end += text;
+      }
+    }
+    return end;
+  }
+
   const Workbook& workbook_;
+  const std::filesystem::path& file_;
   std::unique_ptr<lxw_workbook, Freer> book_;
   lxw_worksheet* sheet_ = nullptr;
   std::vector<lxw_format*> formats_;

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "platform/office/biff/text.h"
+#include "platform/office/limits.h"
 
 namespace ovindra::office {
 namespace {
@@ -82,6 +83,7 @@ void SharedStrings::Write(RecordStream& out) const {
   out.U32(static_cast<std::uint32_t>(strings_.size()));
   for (std::size_t i = 0; i < strings_.size(); ++i) {
     text.Encode(strings_[i]);
+    if (text.length() > kLongestCellText) throw CellTextTooLong();
     // room for one character too: some readers don't look for a text that begins in the record behind its
     // header
     if (out.room() < kStringHeader + 2) ContinueRecord(out);

@@ -18,7 +18,7 @@ class SharedStrings {
   /// The number of the text.
   std::uint32_t Add(std::string_view text);
 
-  /// The records SST, as many CONTINUE as it takes, and EXTSST.
+  /// The records SST, as many CONTINUE as it takes, and EXTSST. An error where a text is too long for a cell.
   void Write(RecordStream& out) const;
 
  private:

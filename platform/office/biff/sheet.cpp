@@ -34,9 +34,9 @@ void WriteSheetSettings(RecordStream& out, const PageSetup& setup) {
   out.Numbers(RecordType::kPrintGrid, {setup.grid_lines ? 1U : 0U});
   out.Numbers(RecordType::kGridSet, {1});
   out.Numbers(RecordType::kGuts, {0, 0, 0, 0});
-  // 1: it isn't the height that the default font would give
+  // no flag: a reader may make a row that was given no height as high as its texts need
   out.Numbers(RecordType::kDefaultRowHeight,
-              {1, static_cast<unsigned>(Workbook::kDefaultRowHeight * kTwipsInPoint)});
+              {0, static_cast<unsigned>(Workbook::kDefaultRowHeight * kTwipsInPoint)});
   out.Numbers(RecordType::kWsBool, {kWsBoolFlags});
 }
 
