@@ -47,6 +47,7 @@ class Step {
   const std::string& Text(std::size_t i) const { return Get<std::string>(i); }
   std::vector<std::string> Texts(std::size_t i) const;
   long Number(std::size_t i) const { return Get<long>(i); }
+  double Decimal(std::size_t i) const { return Get<double>(i); }
   int Int(std::size_t i) const { return static_cast<int>(Number(i)); }
   Date DateOf(std::size_t i) const { return Get<Date>(i); }
   TimeOfDay Time(std::size_t i) const { return Get<TimeOfDay>(i); }

@@ -158,9 +158,6 @@ const std::vector<HandlerRow>& RecordExpectations() {
       {StepKind::kExpectCellBorder, NotThereYet},
       {StepKind::kExpectColumnWidth, NotThereYet},
       {StepKind::kExpectPrint, NotThereYet},
-      {StepKind::kExpectWorkbook, NotThereYet},
-      {StepKind::kExpectSpreadsheet, NotThereYet},
-      {StepKind::kExpectDocument, NotThereYet},
   };
   return rows;
 }

@@ -10,9 +10,9 @@ namespace {
 /// What may still be asked when the end of the program has been seen, beside what sets the stage anew.
 bool OutlivesTheProgram(StepKind kind) {
   static const std::set<StepKind> kinds = {
-      StepKind::kExpectSql,        StepKind::kExpectStatement, StepKind::kExpectNoStatementAtAll,
-      StepKind::kExpectStatements, StepKind::kExpectFile,      StepKind::kExpectWorkbook,
-      StepKind::kExpectEnded,
+      StepKind::kExpectSql,           StepKind::kExpectStatement, StepKind::kExpectNoStatementAtAll,
+      StepKind::kExpectStatements,    StepKind::kExpectFile,      StepKind::kExpectWorkbookCell,
+      StepKind::kExpectWorkbookSheet, StepKind::kExpectEnded,
   };
   const auto& stage_handlers = StageHandlers();
   return kinds.contains(kind) || std::any_of(stage_handlers.begin(), stage_handlers.end(),
@@ -24,8 +24,8 @@ bool OutlivesTheProgram(StepKind kind) {
 Handler HandlerOf(StepKind kind) {
   static const std::map<StepKind, Handler> handlers = [] {
     std::map<StepKind, Handler> all;
-    for (const auto* group :
-         {&StageHandlers(), &ActionHandlers(), &ControlExpectations(), &RecordExpectations()}) {
+    for (const auto* group : {&StageHandlers(), &ActionHandlers(), &ControlExpectations(),
+                              &RecordExpectations(), &PaperExpectations()}) {
       for (const HandlerRow& row : *group) all.emplace(row.kind, row.play);
     }
     return all;

@@ -37,6 +37,10 @@ const std::vector<HandlerRow>& ControlExpectations();
 /// What can be seen beside the forms: message boxes, statements, files, papers, the end of the program.
 const std::vector<HandlerRow>& RecordExpectations();
 
+/// What has become paper: saved workbooks, what the spreadsheet application and the word processor were
+/// handed.
+const std::vector<HandlerRow>& PaperExpectations();
+
 /// "3021 Either BOF or EOF is True...", as the end of the program is written.
 std::string Describe(const RuntimeError& error);
 

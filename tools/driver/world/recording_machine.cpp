@@ -69,8 +69,9 @@ std::optional<std::string> RecordingMachine::FirstLine(std::string_view name) co
   return file == program_files_.end() ? std::nullopt : file->second;
 }
 
-void RecordingMachine::Write(const Workbook&, std::string_view path) {
+void RecordingMachine::Write(const Workbook& workbook, std::string_view path) {
   RequireWritable(path);
+  papers_.Write(workbook, path);
   written_files_.emplace_back(path);
 }
 
@@ -81,6 +82,7 @@ void RecordingMachine::Print(const Workbook& workbook) {
 
 void RecordingMachine::SaveDocument(const Document& document, std::string_view path) {
   RequireWritable(path);
+  papers_.Write(document, path);
   written_files_.emplace_back(path);
   saved_document_ = document;
 }

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/machine/machine.h"
+#include "tools/driver/papers/paper_folder.h"
 #include "tools/driver/player.h"
 #include "tools/driver/world/trace.h"
 
@@ -59,6 +60,9 @@ class RecordingMachine : private MessageBox,
   int prints() const { return prints_; }
   void ForgetPapers();
 
+  /// What was saved, as files.
+  const PaperFolder& papers() const { return papers_; }
+
   /// The page setup of the last print.
   const std::optional<PageSetup>& last_print() const { return last_print_; }
   /// What the spreadsheet application and the word processor were last handed.
@@ -101,6 +105,7 @@ class RecordingMachine : private MessageBox,
       {"key1.ico", {}}, {"key2.ico", {}}, {"key3.ico", {}}, {"findfile.avi", {}}};
   std::set<std::string> unwritable_;
   std::set<std::string> missing_applications_;
+  PaperFolder papers_;
   std::vector<std::string> written_files_;
   int prints_ = 0;
   std::optional<PageSetup> last_print_;
