@@ -11,14 +11,14 @@ using Colour = std::uint32_t;
 inline constexpr Colour kWhite = 0xFFFFFF;
 inline constexpr Colour kRed = 0xFF;
 
-constexpr int RedOf(Colour colour) {
-  return static_cast<int>(colour & 0xFFU);
+constexpr std::uint8_t Red(Colour colour) {
+  return static_cast<std::uint8_t>(colour);
 }
-constexpr int GreenOf(Colour colour) {
-  return static_cast<int>(colour >> 8U & 0xFFU);
+constexpr std::uint8_t Green(Colour colour) {
+  return static_cast<std::uint8_t>(colour >> 8U);
 }
-constexpr int BlueOf(Colour colour) {
-  return static_cast<int>(colour >> 16U & 0xFFU);
+constexpr std::uint8_t Blue(Colour colour) {
+  return static_cast<std::uint8_t>(colour >> 16U);
 }
 
 }  // namespace ovindra

@@ -13,7 +13,7 @@ namespace {
 constexpr Twips kTwipsInPixel = 15;
 
 QColor ToQt(Colour colour) {
-  return {RedOf(colour), GreenOf(colour), BlueOf(colour)};
+  return {Red(colour), Green(colour), Blue(colour)};
 }
 
 /// The largest picture of the file, which may hold several.
