@@ -39,6 +39,7 @@ std::string_view Workbook::Text(int row, int column) const {
 }
 
 void Workbook::SetText(int row, int column, std::string_view text) {
+  ++revision_;
   At(row, column).text = text;
 }
 
@@ -49,6 +50,7 @@ StyleId Workbook::StyleIdAt(int row, int column) const {
 
 void Workbook::Restyle(const CellRange& range, const std::function<void(CellStyle&)>& change) {
   if (range.last_column < range.first_column) return;
+  ++revision_;
   std::map<StyleId, StyleId> changed;
   for (int row = range.first_row; row <= range.last_row; ++row) {
     At(row, range.last_column);
@@ -66,6 +68,7 @@ void Workbook::Restyle(const CellRange& range, const std::function<void(CellStyl
 }
 
 void Workbook::Clear(const CellRange& range) {
+  ++revision_;
   const std::size_t end_row = std::min(rows_.size(), static_cast<std::size_t>(std::max(range.last_row, 0)));
   for (std::size_t place = Place(range.first_row); place < end_row; ++place) {
     Row& row = rows_[place];
@@ -84,6 +87,7 @@ int Workbook::ColumnWidth(int column) const {
 }
 
 void Workbook::SetColumnWidth(int column, int width) {
+  ++revision_;
   column_widths_[column] = width;
 }
 
@@ -92,10 +96,12 @@ double Workbook::RowHeight(int row) const {
 }
 
 void Workbook::SetRowHeight(int row, double height) {
+  ++revision_;
   row_heights_[row] = height;
 }
 
 void Workbook::Merge(const CellRange& range) {
+  ++revision_;
   merges_.push_back(range);
 }
 

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/workbook/style.h"
@@ -38,6 +39,8 @@ struct PageSetup {
   bool centred = false;
   std::string header;
   std::string footer;
+  /// The first and last row that stand at the top of every page.
+  std::optional<std::pair<int, int>> repeated_rows;
 };
 
 /// The place of a style in the list of them.
@@ -95,6 +98,9 @@ class Workbook {
   const std::optional<std::string>& protection() const { return protection_; }
   void Protect(std::string password) { protection_ = std::move(password); }
 
+  /// Counts the changes of what the sheet shows: texts, looks, sizes and merges, not the page setup.
+  std::uint64_t revision() const { return revision_; }
+
   PageSetup page_setup;
 
  private:
@@ -108,6 +114,7 @@ class Workbook {
   Cell& At(int row, int column);
   StyleId IdOf(const CellStyle& style);
 
+  std::uint64_t revision_ = 0;
   std::string sheet_name_ = "Sheet1";
   std::vector<Row> rows_;
   std::vector<CellStyle> styles_;

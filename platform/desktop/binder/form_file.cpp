@@ -8,6 +8,7 @@
 
 #include "platform/desktop/binder/form_panel.h"
 #include "platform/desktop/binder/grid_view.h"
+#include "platform/desktop/binder/sheet_view.h"
 #include "platform/desktop/binder/text.h"
 #include "platform/desktop/windows/backdrop_area.h"
 #include "platform/desktop/windows/login_picture.h"
@@ -39,6 +40,7 @@ class FormLoader : public QUiLoader {
     if (parent == nullptr && class_name == "QWidget") widget = new FormPanel;
     if (class_name == "QTableView") widget = new GridView(parent);
     if (class_name == "QListView") widget = new ListView(parent);
+    if (class_name == "SheetView") widget = new SheetView(parent);
     if (class_name == "BackdropArea") widget = new BackdropArea(parent);
     if (class_name == "SplashPicture") widget = new SplashPicture(parent);
     if (class_name == "LoginPicture") widget = new LoginPicture(parent);

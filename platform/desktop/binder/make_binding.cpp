@@ -1,6 +1,5 @@
 #include "platform/desktop/binder/make_binding.h"
 
-#include "base/controls/report_sheet.h"
 #include "platform/desktop/binder/button_bindings.h"
 #include "platform/desktop/binder/combo_binding.h"
 #include "platform/desktop/binder/date_bindings.h"
@@ -8,6 +7,7 @@
 #include "platform/desktop/binder/grid_binding.h"
 #include "platform/desktop/binder/list_binding.h"
 #include "platform/desktop/binder/menu_bindings.h"
+#include "platform/desktop/binder/sheet_binding.h"
 #include "platform/desktop/binder/shown_bindings.h"
 #include "platform/desktop/binder/tab_bindings.h"
 #include "platform/desktop/binder/text_binding.h"
@@ -43,7 +43,7 @@ constexpr Maker kMakers[] = {
     &Try<PictureBox, QLabel, PictureBinding>,
     &Try<Animation, QProgressBar, AnimationBinding>,
     &Try<StatusBar, QStatusBar, StatusBarBinding>,
-    &Try<ReportSheet, QWidget, WidgetBinding>,
+    &Try<ReportSheet, SheetView, SheetBinding>,
 };
 
 }  // namespace

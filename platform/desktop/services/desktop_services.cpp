@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -20,6 +23,15 @@ constexpr const char* kCalculators[] = {
     "calc.exe",  "gnome-calculator", "kcalc",       "qalculate-gtk",     "qalculate-qt", "galculator",
     "mate-calc", "lxqt-calculator",  "speedcrunch", "deepin-calculator", "xcalc",
 };
+
+/// A name in the documents folder that no file bears yet: "Report.pdf", "Report 2.pdf".
+QString FreshDocument(const QString& name, const QString& extension) {
+  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  QString file = name + "." + extension;
+  for (int number = 2; documents.exists(file); ++number)
+    file = name + " " + QString::number(number) + "." + extension;
+  return documents.filePath(file);
+}
 
 QString BesideProgram(std::string_view name) {
   return QCoreApplication::applicationDirPath() + ToQt(name).replace('\\', '/');
@@ -46,8 +58,23 @@ std::string WindowDialogs::AskSaveName() {
 }
 
 bool WindowDialogs::AskPrinter() {
+  // A range of pages or a file of the last time must not go on silently.
+  printer_.reset();
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) return AskForPaperFile();
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
   return dialog.exec() == QDialog::Accepted;
+}
+
+bool WindowDialogs::AskForPaperFile() {
+  const QString file = FreshDocument("Report", "pdf");
+  QMessageBox box(QMessageBox::Information, "Print",
+                  "This computer has no printer. The report is written as a PDF file:\n\n" +
+                      QDir::toNativeSeparators(file),
+                  QMessageBox::Ok | QMessageBox::Cancel, QApplication::activeWindow());
+  if (box.exec() != QMessageBox::Ok) return false;
+  printer().setOutputFormat(QPrinter::PdfFormat);
+  printer().setOutputFileName(file);
+  return true;
 }
 
 QPrinter& WindowDialogs::printer() {

@@ -22,12 +22,16 @@ class WindowPointer : public Pointer {
 class WindowDialogs : public Dialogs {
  public:
   std::string AskSaveName() override;
+  /// Where the machine has no printer a PDF file in the documents folder stands in for one, and the person is
+  /// told its name.
   bool AskPrinter() override;
 
   /// The printer that was last asked for.
   QPrinter& printer();
 
  private:
+  bool AskForPaperFile();
+
   std::unique_ptr<QPrinter> printer_;
 };
 

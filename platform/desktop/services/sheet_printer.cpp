@@ -1,16 +1,11 @@
 #include "platform/desktop/services/sheet_printer.h"
 
-#include <QPainter>
-
-#include "base/runtime_error.h"
+#include "platform/desktop/paper/print_sheet.h"
 
 namespace ovindra::desktop {
 
 void SheetPrinter::Print(const Workbook& workbook) {
-  QPainter painter;
-  if (!painter.begin(&dialogs_.printer())) throw PrinterError();
-  painter.drawText(painter.window(), Qt::AlignTop | Qt::AlignLeft,
-                   QString::fromStdString(workbook.sheet_name()));
+  PrintSheet(workbook, dialogs_.printer());
 }
 
 }  // namespace ovindra::desktop
