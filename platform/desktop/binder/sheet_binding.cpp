@@ -65,18 +65,7 @@ bool SheetBinding::eventFilter(QObject* watched, QEvent* event) {
     is_finding_ = true;
     view().UserFocus(*this, FocusBy::kMouse);
   }
-  return event->type() == QEvent::KeyPress && FindKeyPressed(static_cast<QKeyEvent&>(*event));
-}
-
-bool SheetBinding::FindKeyPressed(QKeyEvent& event) {
-  if (WidgetBinding* target = view().WithMnemonic(event);
-      target != nullptr && event.modifiers() == Qt::AltModifier) {
-    target->PressMnemonic();
-    return true;
-  }
-  const auto key = KeyOf(event);
-  if (!key || (key->name != KeyName::kF8 && key->name != KeyName::kF9)) return false;
-  return !Act([&] { control().UserKeyDown(key->name); });
+  return false;
 }
 
 bool SheetBinding::KeyPressed(QKeyEvent& event) {

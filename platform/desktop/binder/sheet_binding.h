@@ -26,8 +26,6 @@ class SheetBinding : public WidgetBinding {
  private:
   void FindBarOpened();
   void FindBarClosed();
-  /// The keys of the find bar's text that are the form's.
-  bool FindKeyPressed(QKeyEvent& event);
 
   ReportSheet& sheet_;
   SheetView& shown_;
