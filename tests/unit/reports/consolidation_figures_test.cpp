@@ -514,7 +514,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"DirectByOA", "Command8", "HOSPITAL", 'H', Narrowed::kToBlock, kDemoFirstDay, kDemoLastDay},
         Case{"Programme", "Command9", "ANGANWADI CENTER", 'A', Narrowed::kToProgramme, kDemoFirstDay,
              kDemoLastDay}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace ovindra

@@ -19,6 +19,7 @@
 #include "base/controls/text_box.h"
 #include "base/database/database_error.h"
 #include "base/text/utf8.h"
+#include "tests/unit/tools/driver/paper_form.h"
 #include "tools/driver/drive.h"
 
 namespace ovindra::driver {
@@ -233,7 +234,7 @@ class DeskSession : public Session {
 
 FormList DeskForms() {
   return {EntryFor<frmflash>("frmflash"), EntryFor<frmlogin>("frmlogin"), EntryFor<MDIForm1>("MDIForm1"),
-          EntryFor<frmDesk>("frmDesk")};
+          EntryFor<frmDesk>("frmDesk"), PaperForm()};
 }
 
 DatabaseMaker DeskDatabases() {
