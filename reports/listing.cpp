@@ -1,0 +1,69 @@
+#include "reports/listing.h"
+
+namespace ovindra {
+
+void WriteHeadings(Sheet& sheet, int row, std::initializer_list<std::string_view> headings) {
+  int column = 0;
+  for (const std::string_view heading : headings) sheet.SetCellText(row, ++column, heading);
+}
+
+int WriteRecords(Sheet& sheet, int first_row, Recordset& records,
+                 std::initializer_list<std::string_view> fields) {
+  int row = first_row - 1;
+  if (records.Eof()) return row;
+  std::vector<std::size_t> ordinals;
+  for (const std::string_view field : fields) ordinals.push_back(records.Ordinal(field));
+  for (; !records.Eof(); records.MoveNext()) {
+    ++row;
+    int column = 1;
+    sheet.SetCellText(row, column, row - first_row + 1);
+    for (const std::size_t ordinal : ordinals) sheet.SetCellText(row, ++column, Trim(records.At(ordinal)));
+  }
+  return row;
+}
+
+int WriteGridRows(Sheet& sheet, int first_row, const Grid& grid, std::initializer_list<int> columns) {
+  int row = first_row - 1;
+  for (int grid_row = grid.fixed_rows(); grid_row < grid.rows(); ++grid_row) {
+    ++row;
+    int column = 1;
+    sheet.SetCellText(row, column, row - first_row + 1);
+    for (const int grid_column : columns)
+      sheet.SetCellText(row, ++column, Trim(grid.Cell(grid_row, grid_column)));
+  }
+  return row;
+}
+
+void StyleBlock(Sheet& sheet, const CellRange& cells, const CellFont& font) {
+  sheet.SelectCells(cells.first_row, cells.first_column, cells.last_row, cells.last_column);
+  sheet.SetSelectionFont(font);
+  sheet.SetSelectionBorder();
+}
+
+GridIndex::GridIndex(const Grid& grid, int column) {
+  for (int row = grid.fixed_rows(); row < grid.rows(); ++row)
+    rows_[std::string(Trim(grid.Cell(row, column)))].push_back(row);
+}
+
+std::span<const int> GridIndex::RowsOf(std::string_view text) const {
+  const auto found = rows_.find(std::string(text));
+  if (found == rows_.end()) return {};
+  return found->second;
+}
+
+bool JoinText(Grid& grid, int row, int column, std::string_view text) {
+  const std::string& before = grid.Cell(row, column);
+  const bool is_first = before.empty();
+  grid.SetCell(row, column, is_first ? std::string(text) : before + "," + std::string(text));
+  return is_first;
+}
+
+void JoinRecords(Grid& grid, const GridIndex& index, int column, Recordset& records,
+                 std::string_view key_field, std::string_view value_field) {
+  for (; !records.Eof(); records.MoveNext()) {
+    const std::string value = Trim(records[value_field]);
+    for (const int row : index.RowsOf(Trim(records[key_field]))) JoinText(grid, row, column, value);
+  }
+}
+
+}  // namespace ovindra

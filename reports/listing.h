@@ -1,0 +1,53 @@
+// What the list reports share: headings, numbered rows from records or from a staging grid, and the texts of
+// other records joined to the rows of a grid. A join goes through an index of the grid's rows, so that the
+// work grows with the rows and not with their square; what comes out is what a scan of all rows for every
+// record would give.
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "base/controls/grid.h"
+#include "base/database/recordset.h"
+#include "reports/sheet.h"
+
+namespace ovindra {
+
+/// Writes the headings from column 1 on.
+void WriteHeadings(Sheet& sheet, int row, std::initializer_list<std::string_view> headings);
+
+/// Writes a row for each record from that row on: the running number, then the fields, trimmed. Gives the
+/// last row written, the one before the first where there is no record.
+int WriteRecords(Sheet& sheet, int first_row, Recordset& records,
+                 std::initializer_list<std::string_view> fields);
+
+/// Writes a row for each row of the staging grid: the running number, then the grid's columns, trimmed.
+int WriteGridRows(Sheet& sheet, int first_row, const Grid& grid, std::initializer_list<int> columns);
+
+/// The cells with that font inside blue lines.
+void StyleBlock(Sheet& sheet, const CellRange& cells, const CellFont& font);
+
+/// The data rows of a grid by the trimmed text of one column. It stands as long as the grid's rows do.
+class GridIndex {
+ public:
+  GridIndex(const Grid& grid, int column);
+
+  /// The rows with that text, in their order.
+  std::span<const int> RowsOf(std::string_view text) const;
+
+ private:
+  std::unordered_map<std::string, std::vector<int>> rows_;
+};
+
+/// Puts a text into the cell, or behind a comma where something stands already. True when it was the first.
+bool JoinText(Grid& grid, int row, int column, std::string_view text);
+
+/// Joins the trimmed value of every record into the column of each row whose key is the record's.
+void JoinRecords(Grid& grid, const GridIndex& index, int column, Recordset& records,
+                 std::string_view key_field, std::string_view value_field);
+
+}  // namespace ovindra
