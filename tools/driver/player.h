@@ -58,6 +58,12 @@ struct SeenMessage {
   Answer answer = Answer::kOk;
 };
 
+/// A cell of a report sheet as a person sees it.
+struct SeenCell {
+  std::string text;
+  CellStyle style;
+};
+
 class Player {
  public:
   virtual ~Player() = default;
@@ -157,6 +163,11 @@ class Player {
   virtual int GridRows(const ControlName& grid) = 0;
   /// The cells of one row, the header being row 0.
   virtual std::vector<std::string> GridRow(const ControlName& grid, int row) = 0;
+
+  /// A cell of a report sheet, counted from 1; beyond what was written it is empty and plain.
+  virtual SeenCell SheetCell(const ControlName& sheet, int row, int column) = 0;
+  /// In the sheet's own unit.
+  virtual int SheetColumnWidth(const ControlName& sheet, int column) = 0;
 
   /// A picture of the form's window, where there is one, into that file.
   virtual void TakePicture(std::string_view form, const std::string& file) = 0;

@@ -188,7 +188,9 @@ void SheetView::PaintSelection(QPainter& painter) const {
     for (const QRect& rect : region) painter.fillRect(rect, tint);
   }
   if (current.isNull()) return;
-  painter.setPen(QPen(hasFocus() ? PaperTokens().focus : PaperTokens().line, kRing));
+  // Looking for a text is done in the sheet: its cell is the one in use.
+  const bool in_use = hasFocus() || (find_bar_ != nullptr && find_bar_->edit().hasFocus());
+  painter.setPen(QPen(in_use ? PaperTokens().focus : PaperTokens().line, kRing));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(current.adjusted(0, 0, -1, -1));
 }

@@ -8,7 +8,7 @@ namespace ovindra::desktop {
 namespace {
 
 constexpr double kSidePadding = 4;
-constexpr double kBottomPadding = 2;
+constexpr double kBottomPadding = 2.5;
 
 QColor InkOf(Colour colour) {
   return {Red(colour), Green(colour), Blue(colour)};

@@ -58,6 +58,8 @@ class ControlsPlayer : public Player, private ProgramObserver {
   std::vector<std::string> Items(const ControlName& name) override;
   int GridRows(const ControlName& name) override;
   std::vector<std::string> GridRow(const ControlName& name, int row) override;
+  SeenCell SheetCell(const ControlName& sheet, int row, int column) override;
+  int SheetColumnWidth(const ControlName& sheet, int column) override;
   void TakePicture(std::string_view, const std::string&) override {}
 
  private:

@@ -5,6 +5,7 @@
 #include "base/controls/grid.h"
 #include "base/controls/list_box.h"
 #include "base/controls/menu.h"
+#include "base/controls/report_sheet.h"
 #include "base/controls/shown.h"
 #include "base/controls/tabs.h"
 #include "base/controls/text_control.h"
@@ -99,6 +100,15 @@ int ControlsPlayer::GridRows(const ControlName& name) {
 
 std::vector<std::string> ControlsPlayer::GridRow(const ControlName& name, int row) {
   return dynamic_cast<const Grid&>(Find(name)).RowAt(row);
+}
+
+SeenCell ControlsPlayer::SheetCell(const ControlName& name, int row, int column) {
+  const Workbook& workbook = dynamic_cast<const ReportSheet&>(Find(name)).workbook();
+  return {std::string(workbook.Text(row, column)), workbook.Style(row, column)};
+}
+
+int ControlsPlayer::SheetColumnWidth(const ControlName& name, int column) {
+  return dynamic_cast<const ReportSheet&>(Find(name)).workbook().ColumnWidth(column);
 }
 
 }  // namespace ovindra::driver

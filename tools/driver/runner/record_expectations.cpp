@@ -127,11 +127,6 @@ void PlayCalculator(Stage& stage, const Step&) {
     throw StepFailure("the calculator started", "it was not");
 }
 
-/// A step for something that the program does not have.
-void NotThereYet(Stage&, const Step& step) {
-  throw StepFailure(step.line().substr(step.line().find(' ') + 1), "not there yet");
-}
-
 }  // namespace
 
 std::string Describe(const RuntimeError& error) {
@@ -150,14 +145,6 @@ const std::vector<HandlerRow>& RecordExpectations() {
       {StepKind::kExpectFile, PlayFile},
       {StepKind::kExpectPrinted, PlayPrinted},
       {StepKind::kExpectCalculator, PlayCalculator},
-      {StepKind::kExpectCell, NotThereYet},
-      {StepKind::kExpectCellEmpty, NotThereYet},
-      {StepKind::kExpectCellContains, NotThereYet},
-      {StepKind::kExpectCellFont, NotThereYet},
-      {StepKind::kExpectCellAlignment, NotThereYet},
-      {StepKind::kExpectCellBorder, NotThereYet},
-      {StepKind::kExpectColumnWidth, NotThereYet},
-      {StepKind::kExpectPrint, NotThereYet},
   };
   return rows;
 }

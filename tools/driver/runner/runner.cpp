@@ -25,7 +25,7 @@ Handler HandlerOf(StepKind kind) {
   static const std::map<StepKind, Handler> handlers = [] {
     std::map<StepKind, Handler> all;
     for (const auto* group : {&StageHandlers(), &ActionHandlers(), &ControlExpectations(),
-                              &RecordExpectations(), &PaperExpectations()}) {
+                              &SheetExpectations(), &RecordExpectations(), &PaperExpectations()}) {
       for (const HandlerRow& row : *group) all.emplace(row.kind, row.play);
     }
     return all;

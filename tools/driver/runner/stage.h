@@ -34,6 +34,8 @@ const std::vector<HandlerRow>& StageHandlers();
 const std::vector<HandlerRow>& ActionHandlers();
 /// What a person sees of forms and controls.
 const std::vector<HandlerRow>& ControlExpectations();
+/// What a person sees of a report sheet and of a print.
+const std::vector<HandlerRow>& SheetExpectations();
 /// What can be seen beside the forms: message boxes, statements, files, papers, the end of the program.
 const std::vector<HandlerRow>& RecordExpectations();
 

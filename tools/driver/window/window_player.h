@@ -58,6 +58,8 @@ class WindowPlayer : public Player {
   std::vector<std::string> Items(const ControlName& list) override;
   int GridRows(const ControlName& grid) override;
   std::vector<std::string> GridRow(const ControlName& grid, int row) override;
+  SeenCell SheetCell(const ControlName& sheet, int row, int column) override;
+  int SheetColumnWidth(const ControlName& sheet, int column) override;
   void TakePicture(std::string_view form, const std::string& file) override;
 
  private:

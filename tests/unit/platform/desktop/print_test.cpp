@@ -67,8 +67,9 @@ TEST(PageTexts, AreReadFromTheirCodes) {
     const char* centre;
     const char* right;
   } cases[] = {
-      {"&C & Page &P", "", "  Page 3", ""},     {"&LA&CB&RC", "A", "B", "C"}, {"plain", "", "plain", ""},
-      {"&R&P of &N", "", "", "3 of 7"},         {"&l&a", "Enroll", "", ""},   {"Tom && Co &D &T", "", "Tom & Co 31/05/2016 10:15", ""},
+      {"&C & Page &P", "", "  Page 3", ""}, {"&LA&CB&RC", "A", "B", "C"},
+      {"plain", "", "plain", ""},           {"&R&P of &N", "", "", "3 of 7"},
+      {"&l&a", "Enroll", "", ""},           {"Tom && Co &D &T", "", "Tom & Co 31/05/2016 10:15", ""},
       {"&C&B&Page 5&", "", "3age 5", ""},
   };
   for (const auto& [codes, left, centre, right] : cases) {

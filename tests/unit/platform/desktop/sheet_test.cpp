@@ -37,9 +37,7 @@ class Sheet : public testing::Test {
     }
     return false;
   }
-  SheetCell Current() {
-    return {sheet().currentIndex().row() + 1, sheet().currentIndex().column() + 1};
-  }
+  SheetCell Current() { return {sheet().currentIndex().row() + 1, sheet().currentIndex().column() + 1}; }
 
   SheetDesk desk_;
 };

@@ -14,6 +14,7 @@
 #include "base/controls/grid.h"
 #include "base/controls/list_box.h"
 #include "base/controls/menu.h"
+#include "base/controls/report_sheet.h"
 #include "base/controls/shown.h"
 #include "base/controls/tabs.h"
 #include "base/controls/text_box.h"
@@ -195,6 +196,46 @@ class frmDesk : public Form {
   Button Hidden1{*this, "Hidden1", "Hidden", Hidden};
 };
 
+/// A report of a few cells; Command2 prints it.
+class frmsheet : public Form {
+ public:
+  explicit frmsheet(Module1& module) : Form(module.machine, "frmsheet", "Report") {
+    Plain(Command1.click, &frmsheet::Get);
+    Plain(Command2.click, &frmsheet::Print);
+  }
+
+ private:
+  void Get() {
+    Workbook& workbook = F1Book1.Edit();
+    workbook.SetText(3, 1, "List of children From : 01/04/2016");
+    workbook.SetText(5, 2, "Name");
+    workbook.SetColumnWidth(2, 20000);
+    workbook.Restyle({5, 2, 5, 2}, [](CellStyle& style) {
+      style.font.bold = style.font.underline = true;
+      style.font.colour = 0xFF00FF;
+      style.alignment = {HorizontalAlign::kCentre, true, VerticalAlign::kCentre};
+      style.border = {true, true, true, true, 0xFF0000};
+    });
+    workbook.Restyle({6, 2, 6, 2}, [](CellStyle& style) {
+      style.font.size = 15;
+      style.font.italic = true;
+      style.border.left = style.border.top = true;
+    });
+  }
+  void Print() {
+    PageSetup& setup = F1Book1.Edit().page_setup;
+    setup.left_margin = 0;
+    setup.grid_lines = false;
+    setup.centred = true;
+    setup.footer = "&C & Page &P";
+    machine().printer.Print(F1Book1.workbook());
+  }
+
+  Button Command1{*this, "Command1", "&Get"};
+  Button Command2{*this, "Command2", "&Print"};
+  ReportSheet F1Book1{*this, "F1Book1"};
+};
+
 class DeskSession : public Session {
  public:
   explicit DeskSession(DatabaseContent content) {
@@ -234,7 +275,7 @@ class DeskSession : public Session {
 
 FormList DeskForms() {
   return {EntryFor<frmflash>("frmflash"), EntryFor<frmlogin>("frmlogin"), EntryFor<MDIForm1>("MDIForm1"),
-          EntryFor<frmDesk>("frmDesk"), PaperForm()};
+          EntryFor<frmDesk>("frmDesk"),   EntryFor<frmsheet>("frmsheet"), PaperForm()};
 }
 
 DatabaseMaker DeskDatabases() {
@@ -262,19 +303,19 @@ std::string ScratchFolder::Write(const std::string& name, const std::string& tex
   return Path(name);
 }
 
-Outcome DriveDesk(const std::vector<std::string>& arguments) {
+Outcome DriveDesk(const std::vector<std::string>& arguments, const WindowPlayerMaker& on_windows) {
   std::ostringstream out;
   std::ostringstream err;
-  const DriveParts parts{
-      DeskForms(), [](const std::string&) { return DeskDatabases(); }, MakeControlsPlayer, {}};
+  const DriveParts parts{DeskForms(), [](const std::string&) { return DeskDatabases(); }, MakeControlsPlayer,
+                         on_windows};
   const int exit_code = Drive(arguments, parts, out, err);
   return {exit_code, out.str(), err.str()};
 }
 
-std::vector<std::string> Failures(const std::string& lines) {
+std::vector<std::string> Failures(const std::string& lines, const WindowPlayerMaker& on_windows) {
   const ScratchFolder folder;
   const std::string file = folder.Write("test.scenario", lines);
-  const Outcome outcome = DriveDesk({file});
+  const Outcome outcome = on_windows ? DriveDesk({"--window", file}, on_windows) : DriveDesk({file});
   std::istringstream report(outcome.out + outcome.err);
   std::vector<std::string> failures;
   for (std::string line; std::getline(report, line);) {

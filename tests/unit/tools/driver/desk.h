@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/startup/program.h"
+#include "tools/driver/drive.h"
 #include "tools/driver/world/databases.h"
 
 namespace ovindra::driver {
@@ -40,11 +41,12 @@ class ScratchFolder {
   std::string folder_;
 };
 
-Outcome DriveDesk(const std::vector<std::string>& arguments);
+/// `on_windows` is the player for --window, where a test has one.
+Outcome DriveDesk(const std::vector<std::string>& arguments, const WindowPlayerMaker& on_windows = {});
 
 /// Plays the lines as one scenario and gives the lines that its report has for them, as `LINE: expected ...,
-/// found ...`.
-std::vector<std::string> Failures(const std::string& lines);
+/// found ...`. On the widgets where a player for them is given.
+std::vector<std::string> Failures(const std::string& lines, const WindowPlayerMaker& on_windows = {});
 
 using Lines = std::vector<std::string>;
 
