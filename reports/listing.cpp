@@ -1,5 +1,7 @@
 #include "reports/listing.h"
 
+#include "base/text/blanks.h"
+
 namespace ovindra {
 
 void WriteHeadings(Sheet& sheet, int row, std::initializer_list<std::string_view> headings) {

@@ -62,6 +62,7 @@ const std::vector<GrammarRow>& Grammar() {
       {StepKind::kExpectStatements, "expect hospital? statements contain TEXT+"},
       {StepKind::kExpectSql, "expect hospital? sql QUERY"},
       {StepKind::kExpectCell, "expect cell INTEGER INTEGER TEXT"},
+      {StepKind::kExpectSheetRow, "expect sheet row INTEGER TEXT+"},
       {StepKind::kExpectCellEmpty, "expect cell INTEGER INTEGER empty"},
       {StepKind::kExpectCellContains, "expect cell INTEGER INTEGER contains TEXT"},
       {StepKind::kExpectCellFont,

@@ -49,7 +49,6 @@ class Step {
   long Number(std::size_t i) const { return Get<long>(i); }
   double Decimal(std::size_t i) const { return Get<double>(i); }
   int Int(std::size_t i) const { return static_cast<int>(Number(i)); }
-  double Decimal(std::size_t i) const { return Get<double>(i); }
   Date DateOf(std::size_t i) const { return Get<Date>(i); }
   TimeOfDay Time(std::size_t i) const { return Get<TimeOfDay>(i); }
   Key KeyOf(std::size_t i) const { return Get<Key>(i); }

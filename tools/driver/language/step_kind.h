@@ -62,6 +62,7 @@ enum class StepKind {
   kExpectStatements,
   kExpectSql,
   kExpectCell,
+  kExpectSheetRow,
   kExpectCellEmpty,
   kExpectCellContains,
   kExpectCellFont,

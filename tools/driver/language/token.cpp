@@ -87,4 +87,10 @@ std::string Quote(std::string_view text) {
   return quoted + '"';
 }
 
+std::string QuoteAll(const std::vector<std::string>& texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : " ") + Quote(text);
+  return all.empty() ? "none" : all;
+}
+
 }  // namespace ovindra::driver

@@ -25,4 +25,7 @@ std::vector<Token> CutLine(std::string_view line);
 /// The text as a scenario writes it: in quotes, with the escapes that CutLine reads.
 std::string Quote(std::string_view text);
 
+/// All of them so, a blank between; "none" where there are none.
+std::string QuoteAll(const std::vector<std::string>& texts);
+
 }  // namespace ovindra::driver

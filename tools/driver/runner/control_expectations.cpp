@@ -22,12 +22,6 @@ void Compare(const std::string& what, long expected, long found) {
   if (expected != found) throw StepFailure(what + ' ' + std::to_string(expected), std::to_string(found));
 }
 
-std::string QuoteAll(const std::vector<std::string>& texts) {
-  std::string all;
-  for (const std::string& text : texts) all += (all.empty() ? "" : " ") + Quote(text);
-  return all.empty() ? "none" : all;
-}
-
 /// The caption as a person reads it: the mnemonic's mark is no character of it.
 std::string WithoutMnemonic(std::string_view caption) {
   std::string read;

@@ -45,6 +45,18 @@ void PlayCell(Stage& stage, const Step& step) {
   if (found != step.Text(2)) throw StepFailure(CellName(step) + Quote(step.Text(2)), Quote(found));
 }
 
+/// The cells of a row from column 1 on, as many as are expected.
+void PlaySheetRow(Stage& stage, const Step& step) {
+  const ControlName sheet = SheetOf(stage);
+  const int row = Place(step, 0);
+  const std::vector<std::string> expected = step.Texts(1);
+  std::vector<std::string> found;
+  for (int column = 1; column <= static_cast<int>(expected.size()); ++column)
+    found.push_back(stage.player.SheetCell(sheet, row, column).text);
+  if (found != expected)
+    throw StepFailure("sheet row " + std::to_string(row) + ' ' + QuoteAll(expected), QuoteAll(found));
+}
+
 void PlayCellEmpty(Stage& stage, const Step& step) {
   const std::string found = CellOf(stage, step).text;
   if (!found.empty()) throw StepFailure(CellName(step) + "empty", Quote(found));
@@ -181,6 +193,7 @@ void PlayPrint(Stage& stage, const Step& step) {
 const std::vector<HandlerRow>& SheetExpectations() {
   static const std::vector<HandlerRow> rows = {
       {StepKind::kExpectCell, PlayCell},
+      {StepKind::kExpectSheetRow, PlaySheetRow},
       {StepKind::kExpectCellEmpty, PlayCellEmpty},
       {StepKind::kExpectCellContains, PlayCellContains},
       {StepKind::kExpectCellFont, PlayCellFont},
