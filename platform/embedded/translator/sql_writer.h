@@ -77,6 +77,7 @@ class SqlWriter {
   void WriteItems(const bound::Query& query, const bound::Select& select, Columns columns);
   void WriteSource(const bound::Source& source);
   void WriteOrder(const bound::Query& query);
+  void WriteOrderOfGroups(const bound::Select& select);
 
   std::string text_;
   bool is_definition_ = false;

@@ -100,7 +100,25 @@ void SqlWriter::WriteWhere(const ExpressionPtr& where) {
   WriteExpression(*where);
 }
 
+/// Groups come in the order of what they are grouped by, distinct rows of them in that of their columns, as
+/// the server's sorts leave them.
+void SqlWriter::WriteOrderOfGroups(const Select& select) {
+  const std::size_t count = select.is_distinct ? select.items.size() : select.group_by.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    *this << (i == 0 ? " ORDER BY " : ",");
+    if (select.is_distinct) {
+      *this << (i + 1);
+    } else {
+      WriteCompared(*select.group_by[i]);
+    }
+  }
+}
+
 void SqlWriter::WriteOrder(const Query& query) {
+  if (query.order_by.empty() && query.selects.size() == 1 && !query.selects.front().group_by.empty()) {
+    WriteOrderOfGroups(query.selects.front());
+    return;
+  }
   for (std::size_t i = 0; i < query.order_by.size(); ++i) {
     const OrderItem& item = query.order_by[i];
     *this << (i == 0 ? " ORDER BY " : ",");

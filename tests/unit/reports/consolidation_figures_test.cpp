@@ -468,7 +468,7 @@ TEST_P(Demonstration, CountsAsTheReportDoes) {
   dynamic_cast<DatePicker&>(*form.Find("DTPicker1")).SetValue(c.from);
   dynamic_cast<DatePicker&>(*form.Find("DTPicker2")).SetValue(c.to);
   pick("Combo1", c.location_name);
-  const std::string sankul = First("select min(Sankul_ID) from Screened_School where Location_ID='H'");
+  const std::string sankul = First("select min(Sankul_ID) from Child_RecordOS");
   const std::string of_vision = First("select min(Sankul_ID) from Screened_School where Location_ID='V'");
   std::string value;
   if (c.narrowed == Narrowed::kToSankul) {
