@@ -468,7 +468,12 @@ TEST_P(Demonstration, CountsAsTheReportDoes) {
   dynamic_cast<DatePicker&>(*form.Find("DTPicker1")).SetValue(c.from);
   dynamic_cast<DatePicker&>(*form.Find("DTPicker2")).SetValue(c.to);
   pick("Combo1", c.location_name);
-  const std::string sankul = First("select min(Sankul_ID) from Child_RecordOS");
+  const std::string sankul = First(
+      "select top 1 b.Sankul_ID from Child_RecordOS a,Screened_School b,Enroll_Master c where "
+      "a.Enroll_No=c.Enroll_No "
+      "and c.School_ID=b.School_ID and b.Location_ID='H' and c.Condition='D' and c.Enroll_No like 'H%' group "
+      "by "
+      "b.Sankul_ID order by count(*) desc");
   const std::string of_vision = First("select min(Sankul_ID) from Screened_School where Location_ID='V'");
   std::string value;
   if (c.narrowed == Narrowed::kToSankul) {
