@@ -2,7 +2,10 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "app/forms.h"
 #include "base/controls/combo_box.h"
@@ -14,8 +17,8 @@ namespace ovindra::bench {
 
 class Desk {
  public:
-  explicit Desk(std::string_view form_name)
-      : form_name_(form_name), program_(machine_.services, source_, AllForms()) {
+  explicit Desk(std::string_view form_name, int children = kMillion)
+      : form_name_(form_name), source_(children), program_(machine_.services, source_, AllForms()) {
     program_.module().ScreeningConnection.Open(source_, "DSN=ZQR;");
     program_.module().HospitalConnection.Open(source_, "DSN=ward;");
     program_.module().CurrentUserName = "ADMIN";
@@ -43,12 +46,38 @@ class Desk {
     RefuseMessages();
   }
 
+  /// The screening statements that the program has sent since it was last asked.
+  std::vector<std::string> TakeStatements() { return std::exchange(source_.statements, {}); }
+
  private:
   class LargeSource : public DataSources {
    public:
+    explicit LargeSource(int children) : children_(children) {}
+
     std::unique_ptr<Session> Connect(std::string_view connection) override {
-      return connection.find("ward") == std::string_view::npos ? OpenLarge() : OpenLargeHospital();
+      if (connection.find("ward") != std::string_view::npos) return OpenLargeHospital(children_);
+      return std::make_unique<ListenedSession>(OpenLarge(children_), statements);
     }
+
+    std::vector<std::string> statements;
+
+   private:
+    int children_;
+  };
+
+  class ListenedSession : public Session {
+   public:
+    ListenedSession(std::unique_ptr<Session> session, std::vector<std::string>& statements)
+        : session_(std::move(session)), statements_(statements) {}
+
+    Recordset Run(const SqlText& statement) override {
+      statements_.push_back(statement.text());
+      return session_->Run(statement);
+    }
+
+   private:
+    std::unique_ptr<Session> session_;
+    std::vector<std::string>& statements_;
   };
 
   /// A benchmark whose form complains measures nothing.

@@ -11,10 +11,8 @@
 namespace ovindra::bench {
 namespace {
 
-constexpr int kChildren = 1'000'000;
-
-void Make(const std::filesystem::path& folder) {
-  std::fprintf(stderr, "Making a database of %d children in %s ...\n", kChildren, folder.c_str());
+void Make(const std::filesystem::path& folder, int children) {
+  std::fprintf(stderr, "Making a database of %d children in %s ...\n", children, folder.c_str());
   const std::filesystem::path unfinished = folder.string() + ".unfinished";
   std::filesystem::remove_all(unfinished);
   std::filesystem::create_directories(unfinished);
@@ -28,16 +26,16 @@ void Make(const std::filesystem::path& folder) {
     screening->SetSchemaVersion(kSchemaVersion);
     hospital->SetSchemaVersion(kSchemaVersion);
     screening->RunTogether([&] {
-      hospital->RunTogether([&] { FillDemo(*screening, *hospital, DemoScale::ForChildren(kChildren)); });
+      hospital->RunTogether([&] { FillDemo(*screening, *hospital, DemoScale::ForChildren(children)); });
     });
   }
   std::filesystem::rename(unfinished, folder);
 }
 
-std::unique_ptr<EmbeddedDatabase> OpenFile(const char* name) {
+std::unique_ptr<EmbeddedDatabase> OpenFile(int children, const char* name) {
   EmbeddedOptions options;
   options.schema_version = kSchemaVersion;
-  return EmbeddedDatabase::Open(LargeFolder() / name, options);
+  return EmbeddedDatabase::Open(LargeFolder(children) / name, options);
 }
 
 void Check(int code, sqlite3* database) {
@@ -46,22 +44,23 @@ void Check(int code, sqlite3* database) {
 
 }  // namespace
 
-std::filesystem::path LargeFolder() {
-  const std::filesystem::path folder = BENCH_FOLDER;
-  if (!std::filesystem::exists(folder)) Make(folder);
+std::filesystem::path LargeFolder(int children) {
+  std::filesystem::path folder = BENCH_FOLDER;
+  if (children != kMillion) folder += "-" + std::to_string(children);
+  if (!std::filesystem::exists(folder)) Make(folder, children);
   return folder;
 }
 
-std::unique_ptr<EmbeddedDatabase> OpenLarge() {
-  return OpenFile("ZQR.db");
+std::unique_ptr<EmbeddedDatabase> OpenLarge(int children) {
+  return OpenFile(children, "ZQR.db");
 }
 
-std::unique_ptr<EmbeddedDatabase> OpenLargeHospital() {
-  return OpenFile("ward.db");
+std::unique_ptr<EmbeddedDatabase> OpenLargeHospital(int children) {
+  return OpenFile(children, "ward.db");
 }
 
-ByHand::ByHand() {
-  Check(sqlite3_open((LargeFolder() / "ZQR.db").c_str(), &database_), database_);
+ByHand::ByHand(const char* file) {
+  Check(sqlite3_open((LargeFolder() / file).c_str(), &database_), database_);
   for (const char* setting : {"PRAGMA journal_mode=PERSIST", "PRAGMA journal_size_limit=4000000",
                               "PRAGMA synchronous=FULL", "PRAGMA mmap_size=0", "PRAGMA temp_store=MEMORY",
                               "PRAGMA cache_size=-16000", "PRAGMA cell_size_check=ON"}) {

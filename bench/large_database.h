@@ -1,4 +1,5 @@
-// The database of a million children that the benchmarks run on: made once, then found again.
+// The databases that the benchmarks run on, of a million children unless told otherwise: made once, then
+// found again.
 #pragma once
 
 #include <filesystem>
@@ -11,19 +12,22 @@ struct sqlite3_stmt;
 
 namespace ovindra::bench {
 
-/// The folder with ZQR.db and ward.db of a million children, which is made when it is not there.
-std::filesystem::path LargeFolder();
+inline constexpr int kMillion = 1'000'000;
+
+/// The folder with ZQR.db and ward.db of that many children, which is made when it is not there.
+std::filesystem::path LargeFolder(int children = kMillion);
 
 /// The screening database of that folder, opened as the program opens it.
-std::unique_ptr<EmbeddedDatabase> OpenLarge();
+std::unique_ptr<EmbeddedDatabase> OpenLarge(int children = kMillion);
 
 /// The hospital records database of that folder.
-std::unique_ptr<EmbeddedDatabase> OpenLargeHospital();
+std::unique_ptr<EmbeddedDatabase> OpenLargeHospital(int children = kMillion);
 
 /// The same file by hand, through the C API of SQLite, with the settings of the program.
 class ByHand {
  public:
-  ByHand();
+  /// The screening database, or the other of the two.
+  explicit ByHand(const char* file = "ZQR.db");
   ~ByHand();
   ByHand(const ByHand&) = delete;
   ByHand& operator=(const ByHand&) = delete;
