@@ -131,20 +131,33 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
+void DescribeColour(std::ostream& out, Colour colour) {
+  out << '[' << int{Red(colour)} << ',' << int{Green(colour)} << ',' << int{Blue(colour)} << ']';
+}
+
 void DescribeStyle(std::ostream& out, const CellStyle& style) {
   const CellFont& font = style.font;
   const CellBorder& border = style.border;
-  out << "{\"font\":" << Quoted(font.name) << ",\"size\":" << font.size << ",\"bold\":" << font.bold
-      << ",\"italic\":" << font.italic << ",\"underline\":" << font.underline
-      << ",\"strikeout\":" << font.strikeout << ",\"outline\":" << font.outline
-      << ",\"shadow\":" << font.shadow << ",\"colour\":[" << int{Red(font.colour)} << ','
-      << int{Green(font.colour)} << ',' << int{Blue(font.colour)}
-      << "],\"horizontal\":" << static_cast<int>(style.alignment.horizontal)
-      << ",\"wrapped\":" << style.alignment.wrapped
-      << ",\"middle\":" << (style.alignment.vertical == VerticalAlign::kCentre) << ",\"border\":["
-      << border.left << ',' << border.right << ',' << border.top << ',' << border.bottom << "],\"line\":["
-      << int{Red(border.colour)} << ',' << int{Green(border.colour)} << ',' << int{Blue(border.colour)}
-      << "]}";
+  out << R"({"font":)" << Quoted(font.name);
+  const std::pair<const char*, int> numbers[] = {
+      {"size", font.size},
+      {"bold", font.bold},
+      {"italic", font.italic},
+      {"underline", font.underline},
+      {"strikeout", font.strikeout},
+      {"outline", font.outline},
+      {"shadow", font.shadow},
+      {"horizontal", static_cast<int>(style.alignment.horizontal)},
+      {"wrapped", style.alignment.wrapped},
+      {"middle", style.alignment.vertical == VerticalAlign::kCentre},
+  };
+  for (const auto& [name, number] : numbers) out << ",\"" << name << "\":" << number;
+  out << ",\"border\":[" << border.left << ',' << border.right << ',' << border.top << ',' << border.bottom;
+  out << "],\"colour\":";
+  DescribeColour(out, font.colour);
+  out << ",\"line\":";
+  DescribeColour(out, border.colour);
+  out << '}';
 }
 
 void DescribeCells(std::ostream& out, const Workbook& workbook) {

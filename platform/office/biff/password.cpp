@@ -1,5 +1,7 @@
 #include "platform/office/biff/password.h"
 
+#include <cstddef>
+
 namespace ovindra::office {
 
 std::uint16_t PasswordVerifier(std::string_view password) {
@@ -8,7 +10,7 @@ std::uint16_t PasswordVerifier(std::string_view password) {
   const auto take = [&](unsigned byte) {
     verifier = (((verifier >> 14U) & 1U) | ((verifier << 1U) & 0x7FFFU)) ^ byte;
   };
-  for (auto c = password.rbegin(); c != password.rend(); ++c) take(static_cast<unsigned char>(*c));
+  for (std::size_t i = password.size(); i-- > 0;) take(static_cast<unsigned char>(password[i]));
   take(static_cast<unsigned>(password.size()));
   return static_cast<std::uint16_t>(verifier ^ kLastStep);
 }

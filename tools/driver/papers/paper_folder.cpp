@@ -29,7 +29,7 @@ void PaperFolder::Write(const Document& document, std::string_view path) {
 }
 
 std::optional<fs::path> PaperFolder::WrittenFile(std::string_view path) const {
-  const fs::path file = office::ProgramPath(path, folder_);
+  fs::path file = office::ProgramPath(path, folder_);
   if (!written_.contains(file)) return {};
   return file;
 }

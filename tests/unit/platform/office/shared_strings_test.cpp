@@ -44,6 +44,7 @@ TEST(TextForms, OneByteForLatinElseUtf16) {
 
 TEST(SharedStringTable, KeepsEveryTextOnceAndCountsItsUses) {
   std::vector<std::string> texts;
+  texts.reserve(5'000);
   for (int i = 0; i < 5'000; ++i) texts.push_back("text " + std::to_string(i));
   SharedStrings strings;
   for (int round = 0; round < 2; ++round) {
@@ -103,6 +104,7 @@ TEST(SharedStringTable, TextsLongerThanManyRecords) {
 
 TEST(SharedStringTable, IsIndexedByAtMost128Buckets) {
   std::vector<std::string> texts;
+  texts.reserve(4'001);
   for (int i = 0; i < 4'001; ++i) texts.push_back(std::to_string(i) + std::string(40, 'x'));
   SharedStrings strings;
   for (const std::string& text : texts) strings.Add(text);
