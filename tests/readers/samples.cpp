@@ -161,7 +161,7 @@ void DescribeStyle(std::ostream& out, const CellStyle& style) {
 }
 
 void DescribeCells(std::ostream& out, const Workbook& workbook) {
-  out << "\"cells\":[";
+  out << R"("cells":[)";
   const char* before = "";
   for (int row = 1; row <= workbook.last_row(); ++row) {
     for (int column = 1; column <= workbook.last_column(); ++column) {
@@ -187,7 +187,7 @@ void DescribeSizes(std::ostream& out, const char* name, const Map& sizes) {
 }
 
 void DescribePage(std::ostream& out, const PageSetup& page) {
-  out << "\"page\":{\"margins\":[" << page.left_margin << ',' << page.right_margin << ',' << page.top_margin
+  out << R"("page":{"margins":[)" << page.left_margin << ',' << page.right_margin << ',' << page.top_margin
       << ',' << page.bottom_margin << "],\"grid_lines\":" << page.grid_lines
       << ",\"headings\":" << page.headings << ",\"centred\":" << page.centred
       << ",\"header\":" << Quoted(page.header) << ",\"footer\":" << Quoted(page.footer) << '}';

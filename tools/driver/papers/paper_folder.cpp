@@ -40,10 +40,11 @@ fs::path PaperFolder::FileFor(std::string_view path) {
     if (mkdtemp(name.data()) == nullptr) throw PathFileAccess();
     folder_ = name;
   }
-  const fs::path file = office::ProgramPath(path, folder_);
+  fs::path file = office::ProgramPath(path, folder_);
   // the drive's own folders are thought of as there; those of an ordinary absolute path are or are not
   const bool is_on_drive = file.string().starts_with(folder_.string() + "/");
-  if (is_on_drive) fs::create_directories(file.parent_path());
+  std::error_code told_by_the_write;
+  if (is_on_drive) fs::create_directories(file.parent_path(), told_by_the_write);
   return file;
 }
 
