@@ -38,7 +38,7 @@ class SheetView : public QTableView {
   void OpenFindBar();
   void CloseFindBar();
 
-  QSize sizeHint() const override { return {800, 400}; }
+  QSize sizeHint() const override { return {1340, 500}; }
   void keyboardSearch(const QString& /*text*/) override {}
 
  signals:
