@@ -13,19 +13,14 @@ constexpr UnderParentWords kSankul{"frmsankulmaster", "Sankul Master", "Sankul I
 }  // namespace
 
 frmsankulmaster::frmsankulmaster(Module1& module) : UnderParent(module, kSankul) {
-  Use(Table());
+  Use({.rows = "Select Sankul_ID,Sankul_Name,Block_Name from Sankul_Master a,Block_Master b where "
+               "b.Block_Code=a.Block_Code",
+       .fields = {"Sankul_ID", "Sankul_Name", "Block_Name"}});
   Plain(Text2.lost_focus, &frmsankulmaster::TrimNameToCapitals);
 }
 
 void frmsankulmaster::FillLists() {
   FillBlocks(database(), Combo1);
-}
-
-void frmsankulmaster::View() {
-  FillGrid(database(),
-           sql("Select Sankul_ID,Sankul_Name,Block_Name from Sankul_Master a,Block_Master b where "
-               "b.Block_Code=a.Block_Code"),
-           {"Sankul_ID", "Sankul_Name", "Block_Name"}, MSFlexGrid1);
 }
 
 SqlText frmsankulmaster::Insert() {
@@ -37,15 +32,15 @@ SqlText frmsankulmaster::Insert() {
 frmscreeningcenter::frmscreeningcenter(Module1& module)
     : MasterForm(module, "frmscreeningcenter", "Screening Center Master") {
   const std::vector<Control*> fields{&Text2, &Text3, &Combo1, &Combo2};
-  Use({.code = &Text1,
-       .name = &Text2,
-       .parent = &Combo1,
-       .list = &MSFlexGrid1,
-       .buttons = buttons_.ByStep(),
-       .boxes = {&Text1, &Text2, &Text3},
+  Use({&Text1, &Text2, &MSFlexGrid1, buttons_.ByStep()},
+      {.parent = &Combo1,
+       .more_boxes = {&Text3},
        .combos = {&Combo1, &Combo2},
        .entry = {.add = fields, .cancel = fields, .view = fields, .row = {&Text2, &Text3, &Combo1}},
-       .first = &Text2,
+       .rows = "select Center_ID,Center_Name,Sankul_Name from Center_Master1 a,Sankul_Master b where "
+               "a.Sankul_ID=b.Sankul_ID order by Sankul_Name",
+       .fields = {"Center_ID", "Center_Name", "Sankul_Name"},
+       .same_name = "select * from Center_Master1 where Center_Name=",
        .checks = {{&Text2, "Enter Center Name"}, {&Combo1, "Select Block"}}});
   Plain(load, &frmscreeningcenter::OnLoad);
   Plain(Text2.lost_focus, &frmscreeningcenter::TrimNameToCapitals);
@@ -63,16 +58,8 @@ void frmscreeningcenter::FillLists() {
            Combo1);
 }
 
-void frmscreeningcenter::View() {
-  FillGrid(database(),
-           sql("select Center_ID,Center_Name,Sankul_Name from Center_Master1 a,Sankul_Master b where "
-               "a.Sankul_ID=b.Sankul_ID order by Sankul_Name"),
-           {"Center_ID", "Center_Name", "Sankul_Name"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmscreeningcenter::SameRecords() {
-  return sql("select * from Center_Master1 where Center_Name=", quoted(Text2),
-             " and Sankul_ID=", bare(GetSankulCode()));
+SqlText frmscreeningcenter::SameRecords() {
+  return sql(MasterForm::SameRecords(), " and Sankul_ID=", bare(GetSankulCode()));
 }
 
 SqlText frmscreeningcenter::Insert() {

@@ -16,7 +16,6 @@ class frmsankulmaster : public UnderParent {
 
  private:
   void FillLists() override;
-  void View() override;
   SqlText Insert() override;
 };
 
@@ -36,8 +35,7 @@ class frmscreeningcenter : public MasterForm {
 
   void ClickRow();
   void FillLists() override;
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
+  SqlText SameRecords() override;
   SqlText Insert() override;
   std::string GetSankulCode();
 };

@@ -11,14 +11,13 @@ constexpr Lookup kCategory{"select Category_Code from Category_Master where Cate
 }  // namespace
 
 frmdiagmaster::frmdiagmaster(Module1& module) : MasterForm(module, "frmdiagmaster", "Diagnosis Master") {
-  Use({.code = &Text1,
-       .name = &Text2,
-       .parent = &Combo1,
-       .list = &MSFlexGrid1,
-       .buttons = buttons_.ByStep(),
-       .boxes = {&Text1, &Text2},
+  Use({&Text1, &Text2, &MSFlexGrid1, buttons_.ByStep()},
+      {.parent = &Combo1,
        .combos = {&Combo1},
        .entry = Entry::Alike({&Text2, &Combo1}),
+       .rows = "select * from vw_Diagnosis_Category order by category",
+       .fields = {"Code", "Diagnosis", "Category"},
+       .same_name = "select * from Diagnosis_Master where Diagnosis_Name=",
        .first = &Combo1,
        .checks = {{&Combo1, "Select Category"}, {&Text2, "Enter Diagnosis Name"}},
        .tail = Tail::kEveryStep});
@@ -26,15 +25,6 @@ frmdiagmaster::frmdiagmaster(Module1& module) : MasterForm(module, "frmdiagmaste
 
 void frmdiagmaster::FillLists() {
   FillList(database(), sql("select Category from Category_Master order by Category"), "Category", Combo1);
-}
-
-void frmdiagmaster::View() {
-  FillGrid(database(), sql("select * from vw_Diagnosis_Category order by category"),
-           {"Code", "Diagnosis", "Category"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmdiagmaster::SameRecords() {
-  return sql("select * from Diagnosis_Master where Diagnosis_Name=", quoted(Text2));
 }
 
 SqlText frmdiagmaster::Insert() {

@@ -18,8 +18,6 @@ class frmdiagmaster : public MasterForm {
   Grid MSFlexGrid1{*this, "MSFlexGrid1", {"Diagnosis Code", "Diagnosis Name", "Category"}};
 
   void FillLists() override;
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
   SqlText Insert() override;
 };
 

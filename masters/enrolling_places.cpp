@@ -19,15 +19,15 @@ constexpr Lookup kCenterOfSchool{"Select Center_ID from Center_Master1 where Cen
 frmscmaster::frmscmaster(Module1& module) : MasterForm(module, "frmscmaster", "School Master") {
   // Programme and center keep their state when an entry ends, unlike the block.
   const std::vector<Control*> ended{&Text2, &Combo1};
-  Use({.code = &Text1,
-       .name = &Text2,
-       .parent = &Combo1,
-       .list = &MSFlexGrid1,
-       .buttons = buttons_.ByStep(),
-       .boxes = {&Text1, &Text2, &Text3},
+  Use({&Text1, &Text2, &MSFlexGrid1, buttons_.ByStep()},
+      {.parent = &Combo1,
+       .more_boxes = {&Text3},
        .combos = {&Combo1, &Combo2, &Combo3},
        .entry = {.add = {&Text2, &Combo1, &Combo2, &Combo3}, .cancel = ended, .view = ended, .row = ended},
-       .first = &Text2,
+       .rows = "Select SC_ID,SC_Name,Block_Name,No_of_TTeacher from School_Master a,Block_Master b where "
+               "b.Block_Code=a.Block_Code",
+       .fields = {"SC_ID", "SC_Name", "Block_Name", "No_of_TTeacher"},
+       .same_name = "select * from School_Master where SC_Name=",
        .checks = {{&Text2, "Enter School Name"}, {&Combo1, "Select Block Name"}},
        .counter = &running_number::kSchoolId});
   Plain(Text2.lost_focus, &frmscmaster::TrimNameToCapitals);
@@ -53,17 +53,6 @@ void frmscmaster::FillCenters() {
            "Center_Name", Combo3);
 }
 
-void frmscmaster::View() {
-  FillGrid(database(),
-           sql("Select SC_ID,SC_Name,Block_Name,No_of_TTeacher from School_Master a,Block_Master b where "
-               "b.Block_Code=a.Block_Code"),
-           {"SC_ID", "SC_Name", "Block_Name", "No_of_TTeacher"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmscmaster::SameRecords() {
-  return sql("select * from School_Master where SC_Name=", quoted(Text2));
-}
-
 SqlText frmscmaster::Insert() {
   const std::string code = Read(database(), running_number::kSchoolId);
   const std::string block = CodeOf(database(), master_lookup::kBlock, Combo1);
@@ -76,26 +65,17 @@ SqlText frmscmaster::Insert() {
 }
 
 frmvcmaster::frmvcmaster(Module1& module) : UnderParent(module, kVisionCenter) {
-  Master table = Table();
-  table.checks = {{&Text2, "Enter Vision Center Name"}, {&Combo1, "Select Block Name"}};
-  table.counter = &running_number::kVisionCenterId;
-  Use(std::move(table));
+  Use({.rows = "Select VC_ID,VC_Name,Block_Name from Vision_Center a,Block_Master b where "
+               "b.Block_Code=a.Block_Code",
+       .fields = {"VC_ID", "VC_Name", "Block_Name"},
+       .same_name = "select * from Vision_Center where VC_Name=",
+       .checks = {{&Text2, "Enter Vision Center Name"}, {&Combo1, "Select Block Name"}},
+       .counter = &running_number::kVisionCenterId});
   Plain(Text2.lost_focus, &frmvcmaster::TrimName);
 }
 
 void frmvcmaster::FillLists() {
   FillBlocks(database(), Combo1);
-}
-
-void frmvcmaster::View() {
-  FillGrid(database(),
-           sql("Select VC_ID,VC_Name,Block_Name from Vision_Center a,Block_Master b where "
-               "b.Block_Code=a.Block_Code"),
-           {"VC_ID", "VC_Name", "Block_Name"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmvcmaster::SameRecords() {
-  return sql("select * from Vision_Center where VC_Name=", quoted(Text2));
 }
 
 SqlText frmvcmaster::Insert() {
@@ -106,15 +86,15 @@ SqlText frmvcmaster::Insert() {
 }
 
 frmawmaster::frmawmaster(Module1& module) : MasterForm(module, "frmawmaster", "Anganwadi Center Master") {
-  Use({.code = &Text1,
-       .name = &Text2,
-       .parent = &Combo1,
-       .list = &MSFlexGrid1,
-       .buttons = buttons_.ByStep(),
-       .boxes = {&Text1, &Text2, &Text3},
+  Use({&Text1, &Text2, &MSFlexGrid1, buttons_.ByStep()},
+      {.parent = &Combo1,
+       .more_boxes = {&Text3},
        .combos = {&Combo1},
        .entry = Entry::Alike({&Text2, &Combo1}),
-       .first = &Text2,
+       .rows = "Select AW_ID,AW_Name,Block_Name,No_of_TAww from Anganwadi_Center a,Block_Master b where "
+               "b.Block_Code=a.Block_Code",
+       .fields = {"AW_ID", "AW_Name", "Block_Name", "No_of_TAww"},
+       .same_name = "select * from Anganwadi_Center where AW_Name=",
        .checks = {{&Text2, "Enter Center Name"}, {&Combo1, "Select Block Name"}},
        .counter = &running_number::kAnganwadiCenterId});
   Plain(Text2.lost_focus, &frmawmaster::TrimName);
@@ -129,17 +109,6 @@ void frmawmaster::ClickRow() {
 
 void frmawmaster::FillLists() {
   FillBlocks(database(), Combo1);
-}
-
-void frmawmaster::View() {
-  FillGrid(database(),
-           sql("Select AW_ID,AW_Name,Block_Name,No_of_TAww from Anganwadi_Center a,Block_Master b where "
-               "b.Block_Code=a.Block_Code"),
-           {"AW_ID", "AW_Name", "Block_Name", "No_of_TAww"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmawmaster::SameRecords() {
-  return sql("select * from Anganwadi_Center where AW_Name=", quoted(Text2));
 }
 
 SqlText frmawmaster::Insert() {

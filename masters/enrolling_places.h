@@ -26,8 +26,6 @@ class frmscmaster : public MasterForm {
   void ShowRowWithTeachers();
   void FillLists() override;
   void FillCenters();
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
   SqlText Insert() override;
 };
 
@@ -37,8 +35,6 @@ class frmvcmaster : public UnderParent {
 
  private:
   void FillLists() override;
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
   SqlText Insert() override;
 };
 
@@ -56,8 +52,6 @@ class frmawmaster : public MasterForm {
 
   void ClickRow();
   void FillLists() override;
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
   SqlText Insert() override;
 };
 

@@ -51,25 +51,14 @@ constexpr Lookup kStateOfBlock{"select State_Code from State_Master where State_
 
 frmcountrymaster::frmcountrymaster(Module1& module)
     : MasterForm(module, "frmcountrymaster", "Country Master") {
-  Use({.code = &Text1,
-       .name = &Text2,
-       .list = &MSFlexGrid1,
-       .buttons = {&Command1, &Command2, &Command5, &Command3, &Command4},
-       .boxes = {&Text1, &Text2},
-       .entry = Entry::Alike({&Text2}),
-       .first = &Text2,
+  Use({&Text1, &Text2, &MSFlexGrid1, {&Command1, &Command2, &Command5, &Command3, &Command4}},
+      {.entry = Entry::Alike({&Text2}),
+       .rows = "select * from Country_Master order by Country_Name",
+       .fields = {"Country_Code", "Country_Name"},
+       .same_name = "select * from COUNTRY_MASTER where COUNTRY_NAME=",
        .checks = {{&Text2, "Enter Country Name"}}});
   Plain(load, &frmcountrymaster::OnLoad);
   Plain(Text2.lost_focus, &frmcountrymaster::TrimName);
-}
-
-void frmcountrymaster::View() {
-  FillGrid(database(), sql("select * from Country_Master order by Country_Name"),
-           {"Country_Code", "Country_Name"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmcountrymaster::SameRecords() {
-  return sql("select * from COUNTRY_MASTER where COUNTRY_NAME=", quoted(Text2));
 }
 
 SqlText frmcountrymaster::Insert() {
@@ -78,9 +67,10 @@ SqlText frmcountrymaster::Insert() {
 
 GeographyLevel::GeographyLevel(Module1& module, const GeographyWords& words)
     : UnderParent(module, words.form), level_(words) {
-  Master table = Table();
-  table.checks = {{&Text2, words.name_missing}, {&Combo1, words.parent_missing}};
-  Use(std::move(table));
+  Use({.rows = words.list,
+       .fields = {words.list_fields.begin(), words.list_fields.end()},
+       .same_name = words.same_name,
+       .checks = {{&Text2, words.name_missing}, {&Combo1, words.parent_missing}}});
   Plain(load, &GeographyLevel::OnLoad);
   Plain(Text2.lost_focus, &GeographyLevel::TrimName);
 }
@@ -89,13 +79,8 @@ void GeographyLevel::FillLists() {
   FillList(database(), sql(level_.parents), level_.parent_field, Combo1);
 }
 
-void GeographyLevel::View() {
-  const auto& [code, name, parent] = level_.list_fields;
-  FillGrid(database(), sql(level_.list), {code, name, parent}, MSFlexGrid1);
-}
-
-std::optional<SqlText> GeographyLevel::SameRecords() {
-  return sql(level_.same_name, quoted(Text2), level_.same_parent, bare(GetParentCode()));
+SqlText GeographyLevel::SameRecords() {
+  return sql(MasterForm::SameRecords(), level_.same_parent, bare(GetParentCode()));
 }
 
 SqlText GeographyLevel::Insert() {
@@ -111,15 +96,14 @@ frmstatemaster::frmstatemaster(Module1& module) : GeographyLevel(module, kState)
 frmdistrictmaster::frmdistrictmaster(Module1& module) : GeographyLevel(module, kDistrict) {}
 
 FRMBLOCKMASTER::FRMBLOCKMASTER(Module1& module) : MasterForm(module, "FRMBLOCKMASTER", "BLOCK MASTER") {
-  Use({.code = &Text1,
-       .name = &Text2,
-       .parent = &Combo2,
-       .list = &MSFlexGrid1,
-       .buttons = buttons_.ByStep(),
-       .boxes = {&Text1, &Text2},
+  Use({&Text1, &Text2, &MSFlexGrid1, buttons_.ByStep()},
+      {.parent = &Combo2,
        .combos = {&Combo1, &Combo2},
        .entry = Entry::Alike({&Text2, &Combo1, &Combo2}),
-       .first = &Text2,
+       .rows = "select * from Block_Master a,District_Master b where a.District_Code=b.District_Code order "
+               "by Block_Name",
+       .fields = {"Block_Code", "Block_Name", "District_Name"},
+       .same_name = "select * from BLOCK_MASTER where BLOCK_NAME=",
        .checks = {
            {&Text2, "Enter Block Name"}, {&Combo1, "Select State Name"}, {&Combo2, "Select District Name"}}});
   Plain(load, &FRMBLOCKMASTER::OnLoad);
@@ -136,16 +120,8 @@ void FRMBLOCKMASTER::GetDistrictName() {
            "District_Name", Combo2);
 }
 
-void FRMBLOCKMASTER::View() {
-  FillGrid(database(),
-           sql("select * from Block_Master a,District_Master b where a.District_Code=b.District_Code order "
-               "by Block_Name"),
-           {"Block_Code", "Block_Name", "District_Name"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> FRMBLOCKMASTER::SameRecords() {
-  return sql("select * from BLOCK_MASTER where BLOCK_NAME=", quoted(Text2),
-             " and DISTRICT_CODE=", bare(GetDistrictCode()));
+SqlText FRMBLOCKMASTER::SameRecords() {
+  return sql(MasterForm::SameRecords(), " and DISTRICT_CODE=", bare(GetDistrictCode()));
 }
 
 SqlText FRMBLOCKMASTER::Insert() {

@@ -22,8 +22,6 @@ class frmcountrymaster : public MasterForm {
   Button Command4{*this, "Command4", "&Close"};
   Grid MSFlexGrid1{*this, "MSFlexGrid1", {"Country Code", "Country Name"}};
 
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
   SqlText Insert() override;
 };
 
@@ -48,8 +46,7 @@ class GeographyLevel : public UnderParent {
 
  private:
   void FillLists() override;
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
+  SqlText SameRecords() override;
   SqlText Insert() override;
   std::string GetParentCode();
 
@@ -80,8 +77,7 @@ class FRMBLOCKMASTER : public MasterForm {
 
   void FillLists() override;
   void GetDistrictName();
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
+  SqlText SameRecords() override;
   SqlText Insert() override;
   std::string GetDistrictCode();
 };

@@ -1,6 +1,9 @@
 #include "masters/master_form.h"
 
+#include <utility>
+
 #include "base/text/utf8.h"
+#include "core/entry/lists.h"
 #include "core/entry/standard_dialogs.h"
 
 namespace ovindra {
@@ -15,7 +18,8 @@ void EnableAll(const std::vector<Control*>& controls, bool enabled) {
 MasterForm::MasterForm(Module1& module, std::string_view name, std::string_view caption)
     : Form(module.machine, name, caption), module_(module) {}
 
-void MasterForm::Use(Master master) {
+void MasterForm::Use(const Controls& controls, Master master) {
+  controls_ = controls;
   master_ = std::move(master);
   const auto wire = [this](Event<>& event, void (MasterForm::*step)()) {
     if (master_.tail == Tail::kEveryStep) {
@@ -24,29 +28,30 @@ void MasterForm::Use(Master master) {
       Plain(event, step);
     }
   };
-  const StepButtons& buttons = master_.buttons;
+  const StepButtons& buttons = controls_.buttons;
   wire(buttons.add->click, &MasterForm::Add);
   Guarded(buttons.save->click, &MasterForm::Save);
   wire(buttons.cancel->click, &MasterForm::Cancel);
   wire(buttons.view->click, &MasterForm::ShowList);
   wire(buttons.close->click, &MasterForm::Close);
-  wire(master_.list->click, &MasterForm::ShowRow);
-  wire(master_.list->cell_moved, &MasterForm::ShowRow);
+  wire(controls_.list->click, &MasterForm::ShowRow);
+  wire(controls_.list->cell_moved, &MasterForm::ShowRow);
 }
 
 void MasterForm::OnLoad() {
-  master_.list->SetRows(2);
+  controls_.list->SetRows(2);
   EmptyBox();
 }
 
 void MasterForm::Add() {
   EmptyBox();
   EnableAll(master_.entry.add, true);
-  master_.buttons.cancel->SetEnabled(true);
-  master_.buttons.save->SetEnabled(true);
-  master_.buttons.add->SetEnabled(false);
+  controls_.buttons.cancel->SetEnabled(true);
+  controls_.buttons.save->SetEnabled(true);
+  controls_.buttons.add->SetEnabled(false);
   FillLists();
-  master_.first->SetFocus();
+  Control& first = master_.first == nullptr ? *controls_.name : *master_.first;
+  first.SetFocus();
 }
 
 void MasterForm::Save() {
@@ -77,8 +82,7 @@ bool MasterForm::Validation() {
 }
 
 bool MasterForm::CheckPairacy() {
-  const std::optional<SqlText> same = SameRecords();
-  return same && !database().Execute(*same).Eof();
+  return !master_.same_name.text().empty() && !database().Execute(SameRecords()).Eof();
 }
 
 void MasterForm::Store(const SqlText& insert) {
@@ -91,12 +95,16 @@ void MasterForm::ShowList() {
   View();
   OfferAdd();
   EnableAll(master_.entry.view, false);
-  master_.list->SetFocus();
+  controls_.list->SetFocus();
+}
+
+void MasterForm::View() {
+  FillGrid(database(), sql(master_.rows), master_.fields, *controls_.list);
 }
 
 void MasterForm::ShowRow() {
-  master_.code->SetText(RowText(0));
-  master_.name->SetText(RowText(1));
+  controls_.code->SetText(RowText(0));
+  controls_.name->SetText(RowText(1));
   if (master_.parent != nullptr) ShowOnly(*master_.parent, RowText(2));
   EndShownRow();
 }
@@ -113,7 +121,9 @@ void MasterForm::Cancel() {
 }
 
 void MasterForm::EmptyBox() {
-  for (TextBox* box : master_.boxes) box->SetText("");
+  controls_.code->SetText("");
+  controls_.name->SetText("");
+  for (TextBox* box : master_.more_boxes) box->SetText("");
   for (ComboBox* combo : master_.combos) combo->Clear();
 }
 
@@ -123,20 +133,20 @@ void MasterForm::EndEntry() {
 }
 
 void MasterForm::OfferAdd() {
-  master_.buttons.add->SetEnabled(true);
-  master_.buttons.save->SetEnabled(false);
-  master_.buttons.cancel->SetEnabled(false);
+  controls_.buttons.add->SetEnabled(true);
+  controls_.buttons.save->SetEnabled(false);
+  controls_.buttons.cancel->SetEnabled(false);
 }
 
 void MasterForm::TrimName() {
-  master_.name->SetText(std::string(master_.name->trimmed()));
+  controls_.name->SetText(std::string(controls_.name->trimmed()));
 }
 
 void MasterForm::TrimNameToCapitals() {
   std::string capitals;
-  for (char32_t character : Characters(master_.name->trimmed()))
+  for (char32_t character : Characters(controls_.name->trimmed()))
     AppendCharacter(capitals, UpperCase(character));
-  master_.name->SetText(capitals);
+  controls_.name->SetText(capitals);
 }
 
 std::string MasterForm::CodeOr(std::string_view otherwise, const Lookup& lookup, const TextControl& name) {
@@ -145,7 +155,7 @@ std::string MasterForm::CodeOr(std::string_view otherwise, const Lookup& lookup,
 }
 
 std::string_view MasterForm::RowText(int column) const {
-  return Trim(std::string_view(master_.list->Cell(master_.list->row(), column)));
+  return Trim(std::string_view(controls_.list->Cell(controls_.list->row(), column)));
 }
 
 void ShowOnly(ComboBox& list, std::string_view text) {

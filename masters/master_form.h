@@ -4,7 +4,6 @@
 // leaves what ran before it in the database.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -68,18 +67,28 @@ class MasterForm : public Form {
   /// Which steps carry the error tail.
   enum class Tail { kSave, kEveryStep };
 
-  struct Master {
+  /// The controls that every master has.
+  struct Controls {
     TextBox* code = nullptr;
     TextBox* name = nullptr;
-    /// Shows the third column of the row shown; none in a list of two columns.
-    ComboBox* parent = nullptr;
     Grid* list = nullptr;
     StepButtons buttons{};
-    /// What EmptyBox clears, the code and the name included.
-    std::vector<TextBox*> boxes{};
+  };
+
+  /// What makes one master differ.
+  struct Master {
+    /// Shows the third column of the row shown; none in a list of two columns.
+    ComboBox* parent = nullptr;
+    /// What EmptyBox clears besides the code and the name.
+    std::vector<TextBox*> more_boxes{};
     std::vector<ComboBox*> combos{};
     Entry entry{};
-    /// Where Add puts the focus.
+    /// What View lists, and the fields of its columns.
+    Fragment rows = "";
+    std::vector<std::string_view> fields{};
+    /// Finds the records of a name, which stands behind it; empty where a name may repeat.
+    Fragment same_name = "";
+    /// Where Add puts the focus; the name where nothing else is told.
     Control* first = nullptr;
     std::vector<Check> checks{};
     /// The counter that the code comes from, advanced once the record stands; none where the database numbers
@@ -91,7 +100,7 @@ class MasterForm : public Form {
   MasterForm(Module1& module, std::string_view name, std::string_view caption);
 
   /// Takes the form's table and wires the five buttons and the grid. Called once, when all controls stand.
-  void Use(Master master);
+  void Use(const Controls& controls, Master master);
 
   /// The form's load step, where it has one.
   void OnLoad();
@@ -107,9 +116,8 @@ class MasterForm : public Form {
 
   /// Fills the lists that an entry is picked from.
   virtual void FillLists() {}
-  virtual void View() = 0;
-  /// Finds the records that an entry would repeat; none where the form has no duplicate check.
-  virtual std::optional<SqlText> SameRecords() { return {}; }
+  /// Finds the records that an entry would repeat.
+  virtual SqlText SameRecords() { return sql(master_.same_name, quoted(*controls_.name)); }
   /// The statement that stores the entry, built before the question is asked.
   virtual SqlText Insert() = 0;
 
@@ -125,6 +133,7 @@ class MasterForm : public Form {
   void Add();
   void Save();
   void ShowList();
+  void View();
   void Cancel();
   bool Validation();
   bool CheckPairacy();
@@ -134,6 +143,7 @@ class MasterForm : public Form {
   void OfferAdd();
 
   Module1& module_;
+  Controls controls_;
   Master master_;
 };
 

@@ -23,17 +23,17 @@ constexpr std::string_view kAnganwadiWorker = "AWW";
 
 frmPerson::frmPerson(Module1& module) : MasterForm(module, "frmPerson", "Trained Person Master") {
   const std::vector<Control*> ended{&Text2, &Combo1, &Combo2, &Combo3, &Frame3};
-  Use({.code = &Text1,
-       .name = &Text2,
-       .list = &MSFlexGrid1,
-       .buttons = buttons_.ByStep(),
-       .boxes = {&Text1, &Text2, &Text3},
+  Use({&Text1, &Text2, &MSFlexGrid1, buttons_.ByStep()},
+      {.more_boxes = {&Text3},
        .combos = {&Combo1, &Combo2, &Combo3},
        .entry = {.add = {&Text2, &Combo1, &Combo2, &Combo3, &Combo4, &Frame3},
                  .cancel = ended,
                  .view = {&Text2, &Combo1},
                  .row = ended},
-       .first = &Text2,
+       .rows = "sELECT Person_ID,Person_Name,Center_ID,Description from TPerson_Master "
+               "a,TPerson_Type_Master b where a.Person_Type=b.Type_Code",
+       .fields = {"Person_ID", "Person_Name", "Center_ID", "Description"},
+       .same_name = "select * from TPerson_Master where Person_Name=",
        .checks = {{&Text2, "Enter Person Name"}, {&Combo1, "Select Center Name"}}});
   Plain(load, &frmPerson::OnLoad);
   Plain(Text2.lost_focus, &frmPerson::TrimNameToCapitals);
@@ -56,16 +56,8 @@ void frmPerson::ChooseType() {
   if (GetTypeCode() == kTeacher) FillSchools(database(), Combo1);
 }
 
-void frmPerson::View() {
-  FillGrid(database(),
-           sql("sELECT Person_ID,Person_Name,Center_ID,Description from TPerson_Master a,TPerson_Type_Master "
-               "b where a.Person_Type=b.Type_Code"),
-           {"Person_ID", "Person_Name", "Center_ID", "Description"}, MSFlexGrid1);
-}
-
-std::optional<SqlText> frmPerson::SameRecords() {
-  return sql("select * from TPerson_Master where Person_Name=", quoted(Text2),
-             " and Center_ID=", quoted(GetCenterCode()));
+SqlText frmPerson::SameRecords() {
+  return sql(MasterForm::SameRecords(), " and Center_ID=", quoted(GetCenterCode()));
 }
 
 SqlText frmPerson::Insert() {

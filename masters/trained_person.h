@@ -29,8 +29,7 @@ class frmPerson : public MasterForm {
 
   void FillLists() override;
   void ChooseType();
-  void View() override;
-  std::optional<SqlText> SameRecords() override;
+  SqlText SameRecords() override;
   SqlText Insert() override;
 
   void ShowPerson();

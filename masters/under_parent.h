@@ -23,8 +23,8 @@ class UnderParent : public MasterForm {
  protected:
   UnderParent(Module1& module, const UnderParentWords& words);
 
-  /// The table of the form, all but its checks.
-  Master Table();
+  /// Takes the form's table, which needs to tell nothing of the controls.
+  void Use(Master master);
 
   const UnderParentWords& words_;
   TextBox Text1{*this, "Text1", words_.code, Disabled};

@@ -67,32 +67,30 @@ void frmuser::OnLoad() {
 
 void frmuser::New() {
   NewMode = true;
-  BeginMode();
   ShowPassword();
-  Combo1.SetFocus();
+  BeginMode();
 }
 
 void frmuser::Change() {
   ChangeMode = true;
-  BeginMode();
   ShowPassword();
   Text2.SetText("");
   FillUsers();
-  Combo1.SetFocus();
+  BeginMode();
 }
 
 void frmuser::Edit() {
   EditMode = true;
-  BeginMode();
   HidePassword();
   FillUsers();
-  Combo1.SetFocus();
+  BeginMode();
 }
 
 void frmuser::BeginMode() {
   for (Button* button : {&cmdnew, &cmdchange, &cmdedit}) button->SetEnabled(false);
   cmdok.SetEnabled(true);
   Combo1.SetEnabled(true);
+  Combo1.SetFocus();
 }
 
 void frmuser::Ok() {
