@@ -10,16 +10,14 @@ namespace {
 constexpr std::string_view kHelp =
     "Creating Users and Assigning User Access Rights : \n"
     "\n"
-    "1. Press New and enter the user name ( maximum upto 30 characters) and the password ( maximum upto 10 "
-    "characters).\n"
-    "2. On the tab Rights tick what the user may open: item by item, a whole group by All, or by an "
-    "authority "
-    "level.\n"
+    "1. Press New and enter the user name ( maximum upto 30 characters) and the password "
+    "( maximum upto 10 characters).\n"
+    "2. On the tab Rights tick what the user may open: item by item, a whole group by All, "
+    "or by an authority level.\n"
     "3. Press Ok to save the user with these rights.\n"
     "\n"
-    "To change the rights of a user press Edit, select the user, turn to the tab Rights, and press Ok. To "
-    "change a "
-    "password press Change Password, select the user, enter the new password, and press Ok.";
+    "To change the rights of a user press Edit, select the user, turn to the tab Rights, and press Ok. "
+    "To change a password press Change Password, select the user, enter the new password, and press Ok.";
 
 constexpr std::size_t kGroupLength = 2;
 
