@@ -3,6 +3,12 @@
 #include "core/shell/login.h"
 #include "core/shell/main_window.h"
 #include "core/startup/flash.h"
+#include "masters/centers.h"
+#include "masters/diagnosis.h"
+#include "masters/enrolling_places.h"
+#include "masters/geography.h"
+#include "masters/trained_person.h"
+#include "masters/users.h"
 #include "reports/consolidation.h"
 #include "workflow/attended_child.h"
 #include "workflow/enrollment.h"
@@ -27,6 +33,18 @@ FormList AllForms() {
       EntryFor<frmschool_screening>("frmschool_screening"),
       EntryFor<frmNew>("frmNew"),
       EntryFor<frmconsolidation>("frmconsolidation"),
+      EntryFor<frmcountrymaster>("frmcountrymaster"),
+      EntryFor<frmstatemaster>("frmstatemaster"),
+      EntryFor<frmdistrictmaster>("frmdistrictmaster"),
+      EntryFor<FRMBLOCKMASTER>("FRMBLOCKMASTER"),
+      EntryFor<frmscreeningcenter>("frmscreeningcenter"),
+      EntryFor<frmsankulmaster>("frmsankulmaster"),
+      EntryFor<frmscmaster>("frmscmaster"),
+      EntryFor<frmvcmaster>("frmvcmaster"),
+      EntryFor<frmawmaster>("frmawmaster"),
+      EntryFor<frmPerson>("frmPerson"),
+      EntryFor<frmdiagmaster>("frmdiagmaster"),
+      EntryFor<frmuser>("frmuser"),
   };
 }
 

@@ -41,6 +41,11 @@ void FillListWithData(Connection& connection, const SqlText& statement, std::str
 
 void FillGrid(Connection& connection, const SqlText& statement,
               std::initializer_list<std::string_view> fields, Grid& grid) {
+  FillGrid(connection, statement, std::span(fields.begin(), fields.size()), grid);
+}
+
+void FillGrid(Connection& connection, const SqlText& statement, std::span<const std::string_view> fields,
+              Grid& grid) {
   Recordset rows = connection.Execute(statement);
   grid.SetRows(grid.fixed_rows());
   if (rows.Eof()) return;

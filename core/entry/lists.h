@@ -3,6 +3,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string_view>
 
 #include "base/controls/combo_box.h"
@@ -26,5 +27,7 @@ void FillListWithData(Connection& connection, const SqlText& statement, std::str
 /// trimmed.
 void FillGrid(Connection& connection, const SqlText& statement,
               std::initializer_list<std::string_view> fields, Grid& grid);
+void FillGrid(Connection& connection, const SqlText& statement, std::span<const std::string_view> fields,
+              Grid& grid);
 
 }  // namespace ovindra

@@ -8,7 +8,7 @@
 namespace ovindra {
 
 std::span<const MenuItems> EveryMenuItem() {
-  static constexpr std::array kItems{MenuItems{"m1", 0, 6}, MenuItems{"m2", 0, 12}, MenuItems{"m3", 0, 11}};
+  static constexpr std::array kItems{MenuItems{"m1", 0, 4}, MenuItems{"m2", 0, 10}, MenuItems{"m3", 0, 11}};
   return kItems;
 }
 

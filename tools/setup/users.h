@@ -16,7 +16,8 @@ struct MenuItems {
   int last;
 };
 
-/// Every item of the three menus.
+/// Every item of the three menus that a user needs a right for, as the form of the users offers them; the
+/// others are open to everybody.
 std::span<const MenuItems> EveryMenuItem();
 
 /// Adds a user with the rights to these items. Neither text may hold a quote: the login could not ask for it.

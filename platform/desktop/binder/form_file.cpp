@@ -30,7 +30,7 @@ class ListView : public QListView {
   QSize sizeHint() const override { return {200, 132}; }
 };
 
-/// Knows the program's own widgets besides Qt's.
+/// Knows the program's own widgets besides Qt's, and the tab bar, which Qt's loader leaves out.
 class FormLoader : public QUiLoader {
  public:
   FormLoader() { clearPluginPaths(); }
@@ -41,6 +41,7 @@ class FormLoader : public QUiLoader {
     if (class_name == "QTableView") widget = new GridView(parent);
     if (class_name == "QListView") widget = new ListView(parent);
     if (class_name == "SheetView") widget = new SheetView(parent);
+    if (class_name == "QTabBar") widget = new QTabBar(parent);
     if (class_name == "BackdropArea") widget = new BackdropArea(parent);
     if (class_name == "SplashPicture") widget = new SplashPicture(parent);
     if (class_name == "LoginPicture") widget = new LoginPicture(parent);

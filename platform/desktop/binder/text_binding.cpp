@@ -1,8 +1,10 @@
 #include "platform/desktop/binder/text_binding.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 
 #include "platform/desktop/binder/form_view.h"
+#include "platform/desktop/theme/roles.h"
 
 namespace ovindra::desktop {
 
@@ -11,7 +13,13 @@ TextBinding::TextBinding(FormView& view, TextBox& box, QLineEdit& line)
       box_(box),
       line_(line),
       typed_(line, box, [this](const auto& action) { return Act(action); }) {
-  if (box.password_character()) line.setEchoMode(QLineEdit::Password);
+  if (const auto character = box.password_character()) {
+    line.setEchoMode(QLineEdit::Password);
+    line.setProperty(theme::role::kPasswordCharacter, static_cast<int>(*character));
+    // A line asks for its character when it is made and when its style changes.
+    QEvent restyled(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&line, &restyled);
+  }
 }
 
 void TextBinding::Show(Aspects aspects) {

@@ -15,6 +15,7 @@
 #include "platform/desktop/theme/fields.h"
 #include "platform/desktop/theme/icons.h"
 #include "platform/desktop/theme/options.h"
+#include "platform/desktop/theme/roles.h"
 #include "platform/desktop/theme/theme.h"
 #include "platform/desktop/theme/title_bar.h"
 
@@ -258,8 +259,10 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     case SH_ItemView_ShowDecorationSelected:
     case SH_UnderlineShortcut:
       return 1;
-    case SH_LineEdit_PasswordCharacter:
-      return '$';
+    case SH_LineEdit_PasswordCharacter: {
+      const QVariant own = widget == nullptr ? QVariant() : widget->property(role::kPasswordCharacter);
+      return own.isValid() ? own.toInt() : '$';
+    }
     case SH_ComboBox_PopupFrameStyle:
       return QFrame::NoFrame;
     case SH_FormLayoutLabelAlignment:

@@ -32,6 +32,8 @@ inline constexpr auto kLock = "lock";
 inline constexpr auto kPanel = "panel";
 /// QWidget: the bar of selectors and buttons above a report sheet.
 inline constexpr auto kReportBar = "reportBar";
+/// QLineEdit that hides what is typed: the character that is shown instead, `$` when unset.
+inline constexpr auto kPasswordCharacter = "passwordCharacter";
 /// QAbstractScrollArea that fills its window from edge to edge: square, without a focus ring of its own.
 inline constexpr auto kEdgeToEdge = "edgeToEdge";
 

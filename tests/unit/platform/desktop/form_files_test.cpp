@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QScrollBar>
 #include <QTableView>
@@ -11,6 +12,7 @@
 
 #include "app/forms.h"
 #include "base/controls/grid.h"
+#include "base/controls/text_box.h"
 #include "desk.h"
 #include "platform/desktop/binder/form_file.h"
 #include "platform/desktop/binder/text.h"
@@ -71,6 +73,17 @@ TEST_P(FormFiles, TheFileHoldsNoStateAndNoStyle) {
   for (const char* word : {"name=\"geometry\"", "styleSheet", "<connection", "name=\"enabled\"",
                            "name=\"visible\"", "name=\"checked\""}) {
     EXPECT_FALSE(file.contains(word)) << word;
+  }
+}
+
+TEST_P(FormFiles, WhatIsHiddenShowsTheCharacterOfItsBox) {
+  for (Control* control : form_->controls()) {
+    auto* box = dynamic_cast<TextBox*>(control);
+    if (box == nullptr || !box->password_character()) continue;
+    box->SetText("abc");
+    view_->ShowChanges();
+    const auto* line = view_->root()->findChild<QLineEdit*>(WidgetName(*box));
+    EXPECT_EQ(line->displayText().toStdString(), std::string(3, *box->password_character()));
   }
 }
 

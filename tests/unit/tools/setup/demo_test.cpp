@@ -188,7 +188,7 @@ TEST_F(Demo, HasNothingThatTheCheckWouldFind) {
 
 TEST_F(Demo, TheAdministratorMayDoEverythingAndNobodyElseDoes) {
   EXPECT_EQ(Rows("select User_Name,Password from User_Master where User_Code=1"), "ADMIN|admin");
-  EXPECT_EQ(Rows("select count(*) as Total from User_Rights where User_Code=1"), "32");
+  EXPECT_EQ(Rows("select count(*) as Total from User_Rights where User_Code=1"), "28");
   EXPECT_EQ(Rows("select User_Code from User_Rights where User_Code<>1 and Access='m3(7)'"), "");
   EXPECT_EQ(Rows("select count(distinct User_Code) as Total from User_Rights"), "6");
 }
