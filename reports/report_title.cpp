@@ -20,6 +20,8 @@ struct ReportTitle {
   int column = 3;  // of the hospital's name
   CellRange selected_last{4, 3, 4, 3};
   CellRange fitted_rows{1, 3, 3, 3};
+  int heading_row = 5;
+  int last_heading_row = 5;
   std::string_view second_line = {};
   NameStyle name = NameStyle::kPlain;
 };
@@ -47,6 +49,8 @@ constexpr ReportTitle kTitles[] = {
     {.form = "frmturnup", .line = "Turnup Child List From : {from} To :{to}"},
     {.form = "frmspectaclepwr",
      .line = "Spectacle Power Report From : {from} To :{to}",
+     .heading_row = 6,
+     .last_heading_row = 7,
      .second_line = "SCREENED BY :- {selection}"},
     {.form = "frmenrolllist", .line = "List of Enrolled Child From : {from} To :{to}"},
     {.form = "frmscreenedlist", .line = "List of Screened Child From : {from} To :{to}"},
@@ -112,6 +116,7 @@ void WriteReportTitle(Sheet& sheet, std::string_view form_name, const TitleValue
   }
   StyleAsTitle(sheet, {3, 1, 3, 8});
   StyleAsTitle(sheet, title->selected_last);
+  sheet.RepeatOnPages(title->heading_row, title->last_heading_row);
   const CellRange& fitted = title->fitted_rows;
   if (fitted.first_row <= fitted.last_row)
     sheet.FitRows(fitted.first_row, fitted.first_column, fitted.last_row, fitted.last_column);

@@ -85,6 +85,10 @@ void Sheet::FitRows(int row1, int col1, int row2, int col2) {
   FitRowHeights(Edit(), {row1, col1, row2, col2});
 }
 
+void Sheet::RepeatOnPages(int first_row, int last_row) {
+  Edit().page_setup.repeated_rows = {first_row, last_row};
+}
+
 void Sheet::NameSheet(std::string_view text) {
   constexpr std::size_t kLongestName = 31;
   constexpr std::string_view kForbidden = ":\\/?*[]";

@@ -48,6 +48,9 @@ class Sheet {
   /// Fits the heights of the rows to the texts of the rectangle.
   void FitRows(int row1, int col1, int row2, int col2);
 
+  /// Rows that stand at the top of every printed page.
+  void RepeatOnPages(int first_row, int last_row);
+
   /// The sheet's name in a saved file, cut at 31 characters, each of : \ / ? * [ ] a blank. An empty text
   /// leaves the name as it was.
   void NameSheet(std::string_view text);

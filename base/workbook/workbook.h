@@ -40,7 +40,7 @@ struct PageSetup {
   std::string header;
   std::string footer;
   /// The first and last row that stand at the top of every page.
-  std::optional<std::pair<int, int>> repeated_rows;
+  std::optional<std::pair<int, int>> repeated_rows = std::nullopt;
 };
 
 /// The place of a style in the list of them.

@@ -49,12 +49,9 @@ SheetFindBar::SheetFindBar(QWidget* parent)
 
 void SheetFindBar::ShowFound(bool found) {
   if (nothing_->isVisibleTo(this) == !found) return;
-  QPalette palette = edit_->palette();
-  palette.setColor(QPalette::Text, found ? theme::Current().text : theme::Current().err);
-  edit_->setPalette(palette);
-  nothing_->setPalette(palette);
-  nothing_->setStyleSheet("color: " + theme::Current().err.name());
-  edit_->setStyleSheet(found ? QString() : "color: " + theme::Current().err.name());
+  const QString ink = "color: " + theme::Current().err.name();
+  nothing_->setStyleSheet(ink);
+  edit_->setStyleSheet(found ? QString() : ink);
   nothing_->setVisible(!found);
   adjustSize();
 }

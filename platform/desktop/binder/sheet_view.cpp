@@ -220,8 +220,11 @@ void SheetView::wheelEvent(QWheelEvent* event) {
     QTableView::wheelEvent(event);
     return;
   }
-  const int turned = event->angleDelta().y();
-  if (turned != 0) SetZoom(zoom_ + (turned > 0 ? kZoomStep : -kZoomStep));
+  // A fine wheel or a touch pad turns by parts of a notch.
+  turned_ += event->angleDelta().y();
+  const int notches = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+  if (notches != 0) SetZoom(zoom_ + notches * kZoomStep);
   event->accept();
 }
 

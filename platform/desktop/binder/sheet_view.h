@@ -67,6 +67,7 @@ class SheetView : public QTableView {
   std::unique_ptr<SheetFonts> fonts_;
   SheetFindBar* find_bar_ = nullptr;
   double zoom_ = 1;
+  int turned_ = 0;
 };
 
 }  // namespace ovindra::desktop

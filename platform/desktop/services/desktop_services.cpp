@@ -15,6 +15,7 @@
 
 #include "base/runtime_error.h"
 #include "platform/desktop/binder/text.h"
+#include "platform/desktop/services/documents.h"
 
 namespace ovindra::desktop {
 namespace {
@@ -23,15 +24,6 @@ constexpr const char* kCalculators[] = {
     "calc.exe",  "gnome-calculator", "kcalc",       "qalculate-gtk",     "qalculate-qt", "galculator",
     "mate-calc", "lxqt-calculator",  "speedcrunch", "deepin-calculator", "xcalc",
 };
-
-/// A name in the documents folder that no file bears yet: "Report.pdf", "Report 2.pdf".
-QString FreshDocument(const QString& name, const QString& extension) {
-  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-  QString file = name + "." + extension;
-  for (int number = 2; documents.exists(file); ++number)
-    file = name + " " + QString::number(number) + "." + extension;
-  return documents.filePath(file);
-}
 
 QString BesideProgram(std::string_view name) {
   return QCoreApplication::applicationDirPath() + ToQt(name).replace('\\', '/');
@@ -51,8 +43,7 @@ void WindowPointer::Set(PointerShape shape) {
 
 std::string WindowDialogs::AskSaveName() {
   const QString name =
-      QFileDialog::getSaveFileName(QApplication::activeWindow(), "Save As",
-                                   QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+      QFileDialog::getSaveFileName(QApplication::activeWindow(), "Save As", DocumentsFolder(),
                                    "Excel 97 workbook (*.xls);;Excel workbook (*.xlsx);;All files (*)");
   return FromQt(name);
 }
