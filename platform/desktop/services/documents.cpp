@@ -6,7 +6,7 @@
 namespace ovindra::desktop {
 
 QString DocumentsFolder() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   QDir().mkpath(folder);
   return folder;
 }
