@@ -63,7 +63,7 @@ void FindMissingTables(Session& session, Session& pristine, std::string_view sch
 }
 
 void FindCounterFaults(Session& screening, std::vector<Fault>& faults) {
-  for (const RunningNumber& counter : RunningNumbers()) {
+  for (const CountedNumber& counter : RunningNumbers()) {
     const Recordset row = Execute(
         screening, sql("select Control_Value,Control_String from Running_Number where RNControl_Code=",
                        quoted(counter.code)));

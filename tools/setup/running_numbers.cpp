@@ -22,8 +22,8 @@ long long NumberIn(std::string_view key, std::string_view prefix) {
 
 }  // namespace
 
-std::span<const RunningNumber> RunningNumbers() {
-  static constexpr auto kCounters = std::to_array<RunningNumber>({
+std::span<const CountedNumber> RunningNumbers() {
+  static constexpr auto kCounters = std::to_array<CountedNumber>({
       {"ENROLL_NO", "enroll numbers", "select Enroll_No as Used from Enroll_Master", false},
       {"CHILD_RECORDNO", "examination records", "select Child_RecordNo as Used from Child_Record", false},
       {"CHILD_RECORDNOOS", "OS camp records", "select Child_RecordNo as Used from Child_RecordOS", false},
@@ -34,7 +34,7 @@ std::span<const RunningNumber> RunningNumbers() {
   return kCounters;
 }
 
-long long HighestNumberInUse(Session& screening, const RunningNumber& counter, std::string_view prefix) {
+long long HighestNumberInUse(Session& screening, const CountedNumber& counter, std::string_view prefix) {
   long long highest = 0;
   for (Recordset keys = Execute(screening, sql(counter.select_keys)); !keys.Eof(); keys.MoveNext()) {
     const std::string_view key = TrimRight(keys.At(0).RawText());

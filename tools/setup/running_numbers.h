@@ -12,7 +12,7 @@
 namespace ovindra {
 
 /// A counter, and the column whose keys are made from it.
-struct RunningNumber {
+struct CountedNumber {
   std::string_view code;
   /// What the keys are, in the words of the people who use the program.
   std::string_view keys;
@@ -21,11 +21,11 @@ struct RunningNumber {
   bool has_prefix;
 };
 
-std::span<const RunningNumber> RunningNumbers();
+std::span<const CountedNumber> RunningNumbers();
 
 /// The highest number that a key of this counter holds, 0 when there is none. The prefix is that of the
 /// counter's row; keys that were not made from the counter are passed over.
-long long HighestNumberInUse(Session& screening, const RunningNumber& counter, std::string_view prefix);
+long long HighestNumberInUse(Session& screening, const CountedNumber& counter, std::string_view prefix);
 
 /// Sets the next number to use.
 void SetRunningNumber(Session& screening, std::string_view code, long long next);
