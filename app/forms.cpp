@@ -9,7 +9,11 @@
 #include "masters/geography.h"
 #include "masters/trained_person.h"
 #include "masters/users.h"
+#include "reports/child_lists.h"
 #include "reports/consolidation.h"
+#include "reports/defected_children.h"
+#include "reports/enroll_report.h"
+#include "reports/sankul_report.h"
 #include "workflow/attended_child.h"
 #include "workflow/enrollment.h"
 #include "workflow/examination.h"
@@ -45,6 +49,11 @@ FormList AllForms() {
       EntryFor<frmPerson>("frmPerson"),
       EntryFor<frmdiagmaster>("frmdiagmaster"),
       EntryFor<frmuser>("frmuser"),
+      EntryFor<frmenrollrpt>("frmenrollrpt"),
+      EntryFor<frmsankulwiserpt>("frmsankulwiserpt"),
+      EntryFor<frmdefected>("frmdefected"),
+      EntryFor<frmenrolllist>("frmenrolllist"),
+      EntryFor<frmscreenedlist>("frmscreenedlist"),
   };
 }
 

@@ -4,6 +4,7 @@
 
 #include "base/text/utf8.h"
 #include "core/text/text.h"
+#include "reports/percent.h"
 
 namespace ovindra {
 namespace {
@@ -14,12 +15,6 @@ constexpr int kSerial = 1;
 constexpr int kParticulars = 2;
 constexpr int kData = 3;
 constexpr int kParticularsWidth = 20000;
-
-/// The quotient as a percent. A zero divisor is error 11, or 6 where nothing is divided.
-std::string Percent(double numerator, double denominator) {
-  if (denominator == 0) throw numerator == 0 ? Overflow() : DivisionByZero();
-  return NumberText(Round(100 * numerator / denominator, 2)) + "%";
-}
 
 }  // namespace
 
@@ -94,7 +89,7 @@ void ConsolidationReport::WriteMissed(const ConsolidationRow& row) {
 
 void ConsolidationReport::WritePercent(const ConsolidationRow& row) {
   WriteLabel(row.label);
-  sheet_.SetCellText(row_, kData, Percent(ValueOf(row.figure), ValueOf(row.over)));
+  sheet_.SetCellText(row_, kData, NumberText(Percent(ValueOf(row.figure), ValueOf(row.over))) + "%");
   ++row_;
 }
 

@@ -5,12 +5,20 @@
 namespace ovindra {
 
 void WriteHeadings(Sheet& sheet, int row, std::initializer_list<std::string_view> headings) {
+  WriteHeadings(sheet, row, std::span(headings.begin(), headings.size()));
+}
+
+void WriteHeadings(Sheet& sheet, int row, std::span<const std::string_view> headings) {
   int column = 0;
   for (const std::string_view heading : headings) sheet.SetCellText(row, ++column, heading);
 }
 
 int WriteRecords(Sheet& sheet, int first_row, Recordset& records,
                  std::initializer_list<std::string_view> fields) {
+  return WriteRecords(sheet, first_row, records, std::span(fields.begin(), fields.size()));
+}
+
+int WriteRecords(Sheet& sheet, int first_row, Recordset& records, std::span<const std::string_view> fields) {
   int row = first_row - 1;
   if (records.Eof()) return row;
   std::vector<std::size_t> ordinals;
@@ -42,15 +50,28 @@ void StyleBlock(Sheet& sheet, const CellRange& cells, const CellFont& font) {
   sheet.SetSelectionBorder();
 }
 
-GridIndex::GridIndex(const Grid& grid, int column) {
-  for (int row = grid.fixed_rows(); row < grid.rows(); ++row)
-    rows_[std::string(Trim(grid.Cell(row, column)))].push_back(row);
+StagingGrid::StagingGrid(Container& container, std::string_view name,
+                         std::initializer_list<std::string_view> headings)
+    : Grid(container, name, headings) {
+  SetVisible(false);
 }
 
-std::span<const int> GridIndex::RowsOf(std::string_view text) const {
+void RowIndex::Add(std::string_view text, int row) {
+  rows_[std::string(Trim(text))].push_back(row);
+}
+
+std::span<const int> RowIndex::RowsOf(std::string_view text) const {
   const auto found = rows_.find(std::string(text));
   if (found == rows_.end()) return {};
   return found->second;
+}
+
+GridIndex::GridIndex(const Grid& grid, int column) {
+  for (int row = grid.fixed_rows(); row < grid.rows(); ++row) Add(grid.Cell(row, column), row);
+}
+
+SheetIndex::SheetIndex(const Sheet& sheet, int first_row, int last_row, int column) {
+  for (int row = first_row; row <= last_row; ++row) Add(sheet.GetCellText(row, column), row);
 }
 
 bool JoinText(Grid& grid, int row, int column, std::string_view text) {

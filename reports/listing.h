@@ -18,10 +18,12 @@
 namespace ovindra {
 
 /// Writes the headings from column 1 on.
+void WriteHeadings(Sheet& sheet, int row, std::span<const std::string_view> headings);
 void WriteHeadings(Sheet& sheet, int row, std::initializer_list<std::string_view> headings);
 
 /// Writes a row for each record from that row on: the running number, then the fields, trimmed. Gives the
 /// last row written, the one before the first where there is no record.
+int WriteRecords(Sheet& sheet, int first_row, Recordset& records, std::span<const std::string_view> fields);
 int WriteRecords(Sheet& sheet, int first_row, Recordset& records,
                  std::initializer_list<std::string_view> fields);
 
@@ -31,16 +33,38 @@ int WriteGridRows(Sheet& sheet, int first_row, const Grid& grid, std::initialize
 /// The cells with that font inside blue lines.
 void StyleBlock(Sheet& sheet, const CellRange& cells, const CellFont& font);
 
-/// The data rows of a grid by the trimmed text of one column. It stands as long as the grid's rows do.
-class GridIndex {
+/// A table in memory in which a builder gathers its rows; a person never sees it.
+class StagingGrid : public Grid {
  public:
-  GridIndex(const Grid& grid, int column);
+  StagingGrid(Container& container, std::string_view name, std::initializer_list<std::string_view> headings);
 
+  /// Leaves the headings alone.
+  void Empty() { SetRows(fixed_rows()); }
+};
+
+/// Rows by the trimmed text of one of their columns. It stands as long as the rows do.
+class RowIndex {
+ public:
   /// The rows with that text, in their order.
   std::span<const int> RowsOf(std::string_view text) const;
 
+ protected:
+  void Add(std::string_view text, int row);
+
  private:
   std::unordered_map<std::string, std::vector<int>> rows_;
+};
+
+/// The data rows of a grid.
+class GridIndex : public RowIndex {
+ public:
+  GridIndex(const Grid& grid, int column);
+};
+
+/// Rows of the sheet, from one to another.
+class SheetIndex : public RowIndex {
+ public:
+  SheetIndex(const Sheet& sheet, int first_row, int last_row, int column);
 };
 
 /// Puts a text into the cell, or behind a comma where something stands already. True when it was the first.

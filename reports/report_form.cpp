@@ -2,6 +2,7 @@
 
 #include <cassert>
 
+#include "core/entry/lookups.h"
 #include "core/entry/standard_dialogs.h"
 
 namespace ovindra {
@@ -58,6 +59,10 @@ void ReportForm::PrintWithCopy(std::string_view path) {
 
 void ReportForm::ExportSheet() {
   machine().workbook_files.Write(workbook(), machine().dialogs.AskSaveName());
+}
+
+std::string ReportForm::LocationCode(const TextControl& location_name) {
+  return CodeOf(database(), lookup::kLocation, location_name);
 }
 
 void ReportForm::Toggle(std::initializer_list<Control*> controls) {

@@ -64,6 +64,10 @@ class ReportForm : public Form {
   /// written.
   void ExportSheet();
 
+  /// The letter of a location's name, with which its children's enroll numbers begin. A name that is no
+  /// location's is error 3021.
+  std::string LocationCode(const TextControl& location_name);
+
   /// Shows the controls when the first of them is hidden, else hides them.
   static void Toggle(std::initializer_list<Control*> controls);
 

@@ -1,5 +1,8 @@
 #include "core/entry/lists.h"
 
+#include <optional>
+#include <vector>
+
 namespace ovindra {
 namespace {
 
@@ -49,12 +52,13 @@ void FillGrid(Connection& connection, const SqlText& statement, std::span<const 
   Recordset rows = connection.Execute(statement);
   grid.SetRows(grid.fixed_rows());
   if (rows.Eof()) return;
-  std::vector<std::size_t> ordinals;
-  for (std::string_view field : fields) ordinals.push_back(rows.Ordinal(field));
+  std::vector<std::optional<std::size_t>> ordinals;
+  for (std::string_view field : fields)
+    ordinals.push_back(field.empty() ? std::nullopt : std::optional(rows.Ordinal(field)));
   for (; !rows.Eof(); rows.MoveNext()) {
     Grid::Row cells;
     cells.reserve(ordinals.size());
-    for (std::size_t ordinal : ordinals) cells.push_back(Trim(rows.At(ordinal)));
+    for (const auto& ordinal : ordinals) cells.push_back(ordinal ? Trim(rows.At(*ordinal)) : std::string());
     grid.AddRow(std::move(cells));
   }
 }

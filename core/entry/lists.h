@@ -24,7 +24,7 @@ void FillListWithData(Connection& connection, const SqlText& statement, std::str
                       std::string_view data_field, ComboBox& list);
 
 /// Cuts the grid down to its header and adds a row for each of the statement's rows, from the given fields,
-/// trimmed.
+/// trimmed. A field without a name leaves its cell empty.
 void FillGrid(Connection& connection, const SqlText& statement,
               std::initializer_list<std::string_view> fields, Grid& grid);
 void FillGrid(Connection& connection, const SqlText& statement, std::span<const std::string_view> fields,

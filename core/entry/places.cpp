@@ -29,22 +29,35 @@ void FillOldCenters(Connection& connection, ComboBox& centers) {
            centers);
 }
 
+void FillVisionCenters(Connection& connection, ComboBox& centers) {
+  FillList(connection, sql("Select VC_Name from Vision_Center order by VC_Name"), "VC_Name", centers);
+}
+
+void FillHospitals(Connection& connection, ComboBox& centers) {
+  FillList(connection, sql("Select H_Name from Hospital order by H_Name"), "H_Name", centers);
+}
+
+void FillCentersOfProgramme(Connection& connection, const ComboBox& programme, ComboBox& centers,
+                            ComboBox& schools) {
+  FillList(connection,
+           sql("Select Center_Name from Center_Master1 a,Programme_Master b where b.Programme_Name=",
+               quoted(programme), " and a.Programme_Code=b.Programme_code order by Center_Name"),
+           "Center_Name", centers);
+  FillList(connection,
+           sql("Select SC_Name from School_Master a,Programme_Master b where b.Programme_Name=",
+               quoted(programme), " and a.Programme_Code=b.Programme_code order by SC_Name"),
+           "SC_Name", schools);
+}
+
 void FillCentersOfType(Connection& connection, const ComboBox& type, const ComboBox& programme,
                        ComboBox& centers, ComboBox& schools) {
   const std::string location = CodeOf(connection, lookup::kLocation, type);
   if (location == "V") {
-    FillList(connection, sql("Select VC_Name from Vision_Center order by VC_Name"), "VC_Name", centers);
+    FillVisionCenters(connection, centers);
   } else if (location == "H") {
-    FillList(connection, sql("Select H_Name from Hospital order by H_Name"), "H_Name", centers);
+    FillHospitals(connection, centers);
   } else if (location == "A" || location == "S") {
-    FillList(connection,
-             sql("Select Center_Name from Center_Master1 a,Programme_Master b where b.Programme_Name=",
-                 quoted(programme), " and a.Programme_Code=b.Programme_code order by Center_Name"),
-             "Center_Name", centers);
-    FillList(connection,
-             sql("Select SC_Name from School_Master a,Programme_Master b where b.Programme_Name=",
-                 quoted(programme), " and a.Programme_Code=b.Programme_code order by SC_Name"),
-             "SC_Name", schools);
+    FillCentersOfProgramme(connection, programme, centers, schools);
   }
 }
 

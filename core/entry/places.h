@@ -14,6 +14,12 @@ void FillSchools(Connection& connection, ComboBox& schools);
 /// The older list of centers.
 void FillOldCenters(Connection& connection, ComboBox& centers);
 
+void FillVisionCenters(Connection& connection, ComboBox& centers);
+void FillHospitals(Connection& connection, ComboBox& centers);
+/// The screening centers of a programme, and its schools.
+void FillCentersOfProgramme(Connection& connection, const ComboBox& programme, ComboBox& centers,
+                            ComboBox& schools);
+
 /// After the pick of a type: its vision centers or hospitals, with the schools left as they are, or for
 /// schools and anganwadi centers the centers and the schools of the programme. A name that is no type's is
 /// error 3021.
