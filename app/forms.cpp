@@ -13,6 +13,7 @@
 #include "reports/consolidation.h"
 #include "reports/defected_children.h"
 #include "reports/enroll_report.h"
+#include "reports/individual_children.h"
 #include "reports/sankul_report.h"
 #include "workflow/attended_child.h"
 #include "workflow/enrollment.h"
@@ -52,6 +53,7 @@ FormList AllForms() {
       EntryFor<frmenrollrpt>("frmenrollrpt"),
       EntryFor<frmsankulwiserpt>("frmsankulwiserpt"),
       EntryFor<frmdefected>("frmdefected"),
+      EntryFor<Form3>("Form3"),
       EntryFor<frmenrolllist>("frmenrolllist"),
       EntryFor<frmscreenedlist>("frmscreenedlist"),
   };

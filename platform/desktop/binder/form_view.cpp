@@ -1,5 +1,6 @@
 #include "platform/desktop/binder/form_view.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/controls/shown.h"
 #include "platform/desktop/binder/binding.h"
 #include "platform/desktop/binder/cards.h"
 #include "platform/desktop/binder/form_file.h"
@@ -180,6 +182,13 @@ void FormView::Retire() {
 
 void FormView::ControlChanged(Control& control, Aspect aspect) {
   if (Binding* binding = by_control_.value(&control)) Mark(*binding, static_cast<unsigned>(aspect));
+  const auto* animation = dynamic_cast<const Animation*>(&control);
+  if (animation == nullptr || !animation->is_playing()) return;
+  // The work that it stands for begins now, and nothing is shown before that has ended.
+  ShowChanges();
+  if (!IsBuilt()) return;
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  root_->repaint();
 }
 
 }  // namespace ovindra::desktop
