@@ -5,15 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/forms.h"
-#include "base/controls/combo_box.h"
-#include "base/controls/dates.h"
-#include "base/controls/report_sheet.h"
-#include "core/schema/schema.h"
-#include "core/startup/program.h"
-#include "platform/embedded/embedded_database.h"
-#include "tests/unit/base/controls/test_form.h"
-#include "tests/unit/reports/programme_facts.h"
+#include "tests/unit/reports/demonstration.h"
 #include "tools/setup/demo/demo.h"
 
 namespace ovindra {
@@ -394,41 +386,11 @@ void CountTable(Expectation& table, const Case& c) {
   }
 }
 
-/// The demonstration databases, made once, and the program on them.
-class Demonstration : public testing::TestWithParam<Case> {
- protected:
-  static void SetUpTestSuite() {
-    screening_ = EmbeddedDatabase::OpenInMemory("ZQR").release();
-    const auto hospital = EmbeddedDatabase::OpenInMemory("ward");
-    RunScript(*screening_, ScreeningSchema());
-    RunScript(*hospital, HospitalSchema());
-    FillDemo(*screening_, *hospital);
-    facts_ = new ProgrammeFacts(*screening_);
-  }
-  static void TearDownTestSuite() {
-    delete facts_;
-    delete screening_;
-  }
+std::string First(const SqlText& statement) {
+  return Trim(DemonstrationDatabase().Run(statement).At(0));
+}
 
-  class SharedSession : public Session {
-   public:
-    Recordset Run(const SqlText& statement) override { return screening_->Run(statement); }
-  };
-  class Source : public DataSources {
-   public:
-    std::unique_ptr<Session> Connect(std::string_view) override { return std::make_unique<SharedSession>(); }
-  };
-
-  std::string First(const char* statement) {
-    Recordset row = screening_->Run(WholeStatement(statement));
-    return Trim(row.At(0));
-  }
-
-  static EmbeddedDatabase* screening_;
-  static ProgrammeFacts* facts_;
-};
-EmbeddedDatabase* Demonstration::screening_ = nullptr;
-ProgrammeFacts* Demonstration::facts_ = nullptr;
+class ConsolidationFigures : public testing::TestWithParam<Case> {};
 
 /// The figures on the sheet; the lines of a block list sorted, as each list stands between a row without a
 /// figure and a row that has a serial or the total.
@@ -451,60 +413,44 @@ Column FiguresOn(const Workbook& sheet) {
   return column;
 }
 
-TEST_P(Demonstration, CountsAsTheReportDoes) {
+TEST_P(ConsolidationFigures, AreCountedAsTheReportDoes) {
   const Case& c = GetParam();
-  QuietMachine machine;
-  Source source;
-  Program program(machine.services, source, AllForms());
-  program.module().ScreeningConnection.Open(source, "DSN=ZQR;");
-  program.Perform([&] { program.Show("frmconsolidation"); });
-  Form& form = *program.OpenForm("frmconsolidation");
-  const auto pick = [&](const char* name, const std::string& entry) {
-    auto& list = dynamic_cast<ComboBox&>(*form.Find(name));
-    const auto index = list.items().IndexOf(entry);
-    ASSERT_TRUE(index) << entry;
-    program.Perform([&] { list.SetListIndex(*index); });
-  };
-  dynamic_cast<DatePicker&>(*form.Find("DTPicker1")).SetValue(c.from);
-  dynamic_cast<DatePicker&>(*form.Find("DTPicker2")).SetValue(c.to);
-  pick("Combo1", c.location_name);
-  const std::string sankul = First(
+  ReportDesk desk("frmconsolidation");
+  desk.SetPeriod(c.from, c.to);
+  desk.Pick("Combo1", c.location_name);
+  const std::string sankul = First(sql(
       "select top 1 b.Sankul_ID from Child_RecordOS a,Screened_School b,Enroll_Master c where "
       "a.Enroll_No=c.Enroll_No "
       "and c.School_ID=b.School_ID and b.Location_ID='H' and c.Condition='D' and c.Enroll_No like 'H%' group "
       "by "
-      "b.Sankul_ID order by count(*) desc");
-  const std::string of_vision = First("select min(Sankul_ID) from Screened_School where Location_ID='V'");
+      "b.Sankul_ID order by count(*) desc"));
+  const std::string of_vision =
+      First(sql("select min(Sankul_ID) from Screened_School where Location_ID='V'"));
   std::string value;
   if (c.narrowed == Narrowed::kToSankul) {
     value = c.location == 'V' ? of_vision : sankul;
-    pick("Combo2",
-         Trim(screening_->Run(sql("select Sankul_Name from Sankul_Master where Sankul_ID=", bare(value)))
-                  .At(0)));
+    desk.Pick("Combo2", First(sql("select Sankul_Name from Sankul_Master where Sankul_ID=", bare(value))));
   } else if (c.narrowed == Narrowed::kToBlock) {
-    value = c.button == std::string_view("Command8") ? First(
-                                                           "select min(Block_Code) from Enroll_Master where "
-                                                           "Enroll_No like 'H%' and Screened_By='OA' and "
-                                                           "Condition='D'")
-                                                     : First("select min(Block_Code) from Block_Master");
-    pick("Combo3",
-         Trim(screening_->Run(sql("select Block_Name from Block_Master where Block_Code=", bare(value)))
-                  .At(0)));
+    value = First(c.button == std::string_view("Command8")
+                      ? sql("select min(Block_Code) from Enroll_Master where Enroll_No like 'H%' and "
+                            "Screened_By='OA' and Condition='D'")
+                      : sql("select min(Block_Code) from Block_Master"));
+    desk.Pick("Combo3", First(sql("select Block_Name from Block_Master where Block_Code=", bare(value))));
   } else if (c.narrowed == Narrowed::kToProgramme) {
     value = "GRANT2016";
-    pick("Combo4", "GRANT 2016");
+    desk.Pick("Combo4", "GRANT 2016");
   }
-  program.Perform([&] { form.Find(c.button)->UserClick(); });
-  ASSERT_TRUE(machine.messages.empty()) << machine.messages.front();
+  desk.Click(c.button);
+  ASSERT_TRUE(desk.messages().empty()) << desk.messages().front();
 
-  const Counted counted(*facts_, c, value);
+  const Counted counted(DemonstrationFacts(), c, value);
   Expectation table(counted);
   CountTable(table, c);
-  EXPECT_EQ(FiguresOn(dynamic_cast<ReportSheet&>(*form.Find("F1Book1")).workbook()), table.column());
+  EXPECT_EQ(FiguresOn(desk.sheet()), table.column());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Tables, Demonstration,
+    Tables, ConsolidationFigures,
     testing::Values(
         Case{"School", "Command1", "HOSPITAL", 'H', Narrowed::kNo, kDemoFirstDay, kDemoLastDay},
         Case{"SchoolOfAYear", "Command1", "HOSPITAL", 'H', Narrowed::kNo, Day(2015, 4, 1), Day(2016, 3, 31)},

@@ -15,6 +15,11 @@ Date DayOfField(const Field& field) {
   return DayOf(field.AsMoment());
 }
 
+std::optional<Date> MaybeDay(const Field& field) {
+  if (field.IsNull()) return std::nullopt;
+  return DayOfField(field);
+}
+
 struct RecordTables {
   const char* records;
   const char* diagnoses;
@@ -32,15 +37,22 @@ Recordset All(Session& database, const char* statement) {
 
 std::vector<ExaminationFacts> ReadExaminations(Session& database, const RecordTables& tables) {
   std::map<int, int> category_of;
-  for (auto rows = All(database, "select * from Diagnosis_Master"); !rows.Eof(); rows.MoveNext())
-    category_of[static_cast<int>(Number(rows["Diagnosis_Code"]))] =
-        static_cast<int>(Number(rows["Category_Code"]));
+  std::map<int, std::string> name_of;
+  for (auto rows = All(database, "select * from Diagnosis_Master"); !rows.Eof(); rows.MoveNext()) {
+    const int code = static_cast<int>(Number(rows["Diagnosis_Code"]));
+    category_of[code] = static_cast<int>(Number(rows["Category_Code"]));
+    name_of[code] = Trim(rows["Diagnosis_Name"]);
+  }
   std::map<std::string, ExaminationFacts> records;
   for (auto rows = All(database, tables.records); !rows.Eof(); rows.MoveNext())
-    records[Trim(rows["Child_RecordNo"])] = {Trim(rows["Enroll_No"]), Trim(rows["Eye_Condition"]), {}, {}};
-  for (auto rows = All(database, tables.diagnoses); !rows.Eof(); rows.MoveNext())
-    records.at(Trim(rows["Child_RecordNo"]))
-        .categories.push_back(category_of.at(static_cast<int>(Number(rows["Diagnosis_Code"]))));
+    records[Trim(rows["Child_RecordNo"])] = {
+        Trim(rows["Enroll_No"]), Trim(rows["Eye_Condition"]), {}, {}, DayOfField(rows["Record_Date"]), {}};
+  for (auto rows = All(database, tables.diagnoses); !rows.Eof(); rows.MoveNext()) {
+    ExaminationFacts& record = records.at(Trim(rows["Child_RecordNo"]));
+    const int code = static_cast<int>(Number(rows["Diagnosis_Code"]));
+    record.categories.push_back(category_of.at(code));
+    record.diagnoses.push_back(name_of.at(code));
+  }
   for (auto rows = All(database, tables.treatments); !rows.Eof(); rows.MoveNext())
     records.at(Trim(rows["Child_RecordNo"]))
         .treatments.push_back(static_cast<int>(Number(rows["Treatment_Code"])));
@@ -64,7 +76,13 @@ ProgrammeFacts::ProgrammeFacts(Session& database)
                            Trim(rows["Screened"]),
                            Trim(rows["Screened_By"]),
                            Trim(rows["Condition"]),
-                           Trim(rows["Attend"])};
+                           Trim(rows["Attend"]),
+                           Trim(rows["Child_Name"]),
+                           Trim(rows["Fname"]),
+                           Trim(rows["Age"]),
+                           Trim(rows["Gender"]),
+                           Trim(rows["Class"]),
+                           MaybeDay(rows["Screened_Date"])};
   }
   for (auto rows = All(database, "select * from Screened_School"); !rows.Eof(); rows.MoveNext()) {
     registers.push_back(
@@ -78,6 +96,8 @@ ProgrammeFacts::ProgrammeFacts(Session& database)
     anganwadi_centers[Trim(rows["AW_ID"])] = {Trim(rows["Block_Code"]), Number(rows["No_of_TAww"])};
   for (auto rows = All(database, "select * from Block_Master"); !rows.Eof(); rows.MoveNext())
     block_names[Trim(rows["Block_Code"])] = LowerCaseLatin(Trim(rows["Block_Name"]));
+  for (auto rows = All(database, "select * from Treatment_Master"); !rows.Eof(); rows.MoveNext())
+    treatment_names[static_cast<int>(Number(rows["Treatment_Code"]))] = Trim(rows["Description"]);
 }
 
 }  // namespace ovindra

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,12 @@ struct ChildFacts {
   std::string screened_by;
   std::string condition;
   std::string attend;
+  std::string name;
+  std::string father;
+  std::string age;
+  std::string gender;
+  std::string school_class;
+  std::optional<Date> screened_on;
 };
 
 struct ExaminationFacts {
@@ -29,6 +36,8 @@ struct ExaminationFacts {
   std::string condition;
   std::vector<int> categories;  // of its diagnoses, one for each
   std::vector<int> treatments;
+  Date examined;
+  std::vector<std::string> diagnoses;  // their names
 };
 
 struct RegisterFacts {
@@ -57,6 +66,7 @@ struct ProgrammeFacts {
   std::map<std::string, CenterFacts> schools;
   std::map<std::string, CenterFacts> anganwadi_centers;
   std::map<std::string, std::string> block_names;  // by code, in lower case
+  std::map<int, std::string> treatment_names;
 };
 
 }  // namespace ovindra
