@@ -14,7 +14,13 @@
 #include "reports/defected_children.h"
 #include "reports/enroll_report.h"
 #include "reports/individual_children.h"
+#include "reports/missed_children.h"
+#include "reports/referred_children.h"
 #include "reports/sankul_report.h"
+#include "reports/spectacle_power.h"
+#include "reports/spectacle_report.h"
+#include "reports/trained_persons.h"
+#include "reports/turnup_report.h"
 #include "workflow/attended_child.h"
 #include "workflow/enrollment.h"
 #include "workflow/examination.h"
@@ -56,6 +62,12 @@ FormList AllForms() {
       EntryFor<Form3>("Form3"),
       EntryFor<frmenrolllist>("frmenrolllist"),
       EntryFor<frmscreenedlist>("frmscreenedlist"),
+      EntryFor<frmreferallist>("frmreferallist"),
+      EntryFor<frmspectacle>("frmspectacle"),
+      EntryFor<frmturnup>("frmturnup"),
+      EntryFor<frmspectaclepwr>("frmspectaclepwr"),
+      EntryFor<frmtrainedPerlist>("frmtrainedPerlist"),
+      EntryFor<Form1>("Form1"),
   };
 }
 

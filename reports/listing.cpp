@@ -50,6 +50,23 @@ void StyleBlock(Sheet& sheet, const CellRange& cells, const CellFont& font) {
   sheet.SetSelectionBorder();
 }
 
+void StyleList(Sheet& sheet, int heading_row, int last_row, int columns) {
+  StyleBlock(sheet, {heading_row, 1, heading_row, columns}, HeaderStyle());
+  if (last_row > heading_row) StyleBlock(sheet, {heading_row + 1, 1, last_row, columns}, BodyStyle());
+  sheet.FitColumns(heading_row, 1, last_row, columns);
+}
+
+void StageRecords(Grid& grid, Recordset& records, std::initializer_list<std::string_view> fields) {
+  grid.SetRows(grid.fixed_rows());
+  for (; !records.Eof(); records.MoveNext()) {
+    Grid::Row cells;
+    cells.reserve(fields.size());
+    for (const std::string_view field : fields)
+      cells.push_back(field == kEmptyCell ? std::string() : Trim(records[field]));
+    grid.AddRow(std::move(cells));
+  }
+}
+
 StagingGrid::StagingGrid(Container& container, std::string_view name,
                          std::initializer_list<std::string_view> headings)
     : Grid(container, name, headings) {

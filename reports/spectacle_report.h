@@ -1,0 +1,39 @@
+// The list of the children who were prescribed spectacles, whether these were paid for or free, and their
+// count by sex.
+#pragma once
+
+#include "base/controls/frame.h"
+#include "base/controls/text_box.h"
+#include "reports/camp_report.h"
+
+namespace ovindra {
+
+class frmspectacle : public CampReportForm {
+ public:
+  explicit frmspectacle(Module1& module);
+
+ private:
+  Button Command1{*this, "Command1", "&Get"};
+  Button Command5{*this, "Command5", "&Sex"};
+  Button Command2{*this, "Command2", "&Print", Disabled};
+  Button Command4{*this, "Command4", "&Export to Excel", Hidden};
+  Button Command3{*this, "Command3", "&Close"};
+  ReportSheet F1Book1{*this, "F1Book1"};
+  Frame Frame3{*this, "Frame3", "Spectacle Report", Hidden};
+  TextBox Text1{Frame3, "Text1", "Male"};
+  TextBox Text2{Frame3, "Text2", "Female"};
+  TextBox Text3{Frame3, "Text3", "Total"};
+  Button Command6{Frame3, "Command6", "&OK"};
+
+  void OnLoad() { OpenSelections(); }
+  void PressKey(KeyName key);
+  void Get();
+  void CountBySex();
+  void HideCount() { Frame3.SetVisible(false); }
+  void Print();
+  void Export();
+
+  void BuildList() override;
+};
+
+}  // namespace ovindra
