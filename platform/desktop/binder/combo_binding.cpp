@@ -40,7 +40,8 @@ void ComboBinding::Show(Aspects aspects) {
   WidgetBinding::Show(aspects);
   const QSignalBlocker blocker(&box_);
   if (Has(aspects, Aspect::kItems)) items_.Refresh();
-  box_.setCurrentIndex(combo_.list_index());
+  // Set anew it would undo the selection in a typed text.
+  if (box_.currentIndex() != combo_.list_index()) box_.setCurrentIndex(combo_.list_index());
   if (typed_) typed_->Show(0);
 }
 

@@ -40,6 +40,7 @@ class FormLoader : public QUiLoader {
     if (parent == nullptr && class_name == "QWidget") widget = new FormPanel;
     if (class_name == "QTableView") widget = new GridView(parent);
     if (class_name == "QListView") widget = new ListView(parent);
+    if (class_name == "QTabBar") widget = new QTabBar(parent);
     if (class_name == "SheetView") widget = new SheetView(parent);
     if (class_name == "QTabBar") widget = new QTabBar(parent);
     if (class_name == "BackdropArea") widget = new BackdropArea(parent);
