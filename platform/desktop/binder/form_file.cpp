@@ -42,7 +42,6 @@ class FormLoader : public QUiLoader {
     if (class_name == "QListView") widget = new ListView(parent);
     if (class_name == "QTabBar") widget = new QTabBar(parent);
     if (class_name == "SheetView") widget = new SheetView(parent);
-    if (class_name == "QTabBar") widget = new QTabBar(parent);
     if (class_name == "BackdropArea") widget = new BackdropArea(parent);
     if (class_name == "SplashPicture") widget = new SplashPicture(parent);
     if (class_name == "LoginPicture") widget = new LoginPicture(parent);
