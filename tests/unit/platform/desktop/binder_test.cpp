@@ -361,6 +361,35 @@ TEST(ShowingChanges, AMessageBoxSeesWhatWasDoneBeforeIt) {
   EXPECT_EQ(desk.As<QLabel>(form.Label1).text(), "after");
 }
 
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+  int count = 0;
+};
+
+TEST(ShowingChanges, WhatStandsBesideAnAnimationIsPaintedBeforeTheWork) {
+  Desk desk;
+  frmdesk& form = desk.form();
+  Paints paints(desk.WidgetOf(form.Label1));
+  QString seen;
+  int painted = 0;
+  form.Command1.click.Handle([&] {
+    form.Label1.SetCaption("working");
+    paints.count = 0;
+    form.Animation1.Play();
+    seen = desk.As<QLabel>(form.Label1).text();
+    painted = paints.count;
+    form.Animation1.Stop();
+  });
+  desk.Click(form.Command1);
+  EXPECT_EQ(seen, "working");
+  EXPECT_GT(painted, 0);
+}
+
 TEST(Closing, AFormMayCloseItselfWhileItsButtonIsPressed) {
   Desk desk;
   frmdesk& form = desk.form();

@@ -59,6 +59,7 @@ class frmdesk : public Form {
   Grid MSFlexGrid1{*this, "MSFlexGrid1", {"Code", "Name", "Sex"}};
   CheckBox Check1{*this, "Check1", 1, "Glasses"};
   Label Label1{*this, "Label1", "nothing yet"};
+  Animation Animation1{*this, "Animation1"};
   Button Command2{*this, "Command2", "&Close"};
 
   /// What has happened, in its order.
