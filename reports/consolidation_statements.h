@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/database/sql_text.h"
+#include "reports/examiner.h"
 #include "reports/report_form.h"
 
 namespace ovindra {
@@ -21,9 +22,6 @@ struct Coverage {
   Scope scope = Scope::kAll;
   std::string scope_value;
 };
-
-/// Whose examinations are counted: those of the ophthalmic assistant or those of the camp's surgeon.
-enum class Examiner { kAssistant, kSurgeon };
 
 /// Children by their enrollment date; the tail says which of them.
 SqlText ChildCount(const Coverage& coverage, Fragment tail);

@@ -98,8 +98,8 @@ void frmdefected::FinishReport() {
   ShowDefaultPointer();
 }
 
-ExaminedBy frmdefected::ChosenExaminer() const {
-  return Option1.on() ? ExaminedBy::kAssistant : ExaminedBy::kSurgeon;
+Examiner frmdefected::ChosenExaminer() const {
+  return Option1.on() ? Examiner::kAssistant : Examiner::kSurgeon;
 }
 
 void frmdefected::GetRpt() {

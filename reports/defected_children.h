@@ -58,7 +58,7 @@ class frmdefected : public ReportForm {
   void FinishReport();
   void GetRpt();
   void WriteProgrammeList();
-  ExaminedBy ChosenExaminer() const;
+  Examiner ChosenExaminer() const;
 
   bool has_spreadsheet_ = false;
 };

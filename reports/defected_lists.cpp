@@ -21,8 +21,8 @@ constexpr Fragment kTreatmentJoin =
     " and b.Child_RecordNo = a.Child_RecordNo And a.Treatment_Code = c.Treatment_Code";
 
 /// The fragment that names the tables of the examiner.
-constexpr Fragment Of(ExaminedBy examiner, const Fragment& assistants, const Fragment& surgeons) {
-  return examiner == ExaminedBy::kAssistant ? assistants : surgeons;
+constexpr Fragment Of(Examiner examiner, const Fragment& assistants, const Fragment& surgeons) {
+  return examiner == Examiner::kAssistant ? assistants : surgeons;
 }
 
 SqlText InPeriod(const Period& period, const std::string& location) {
@@ -30,7 +30,7 @@ SqlText InPeriod(const Period& period, const std::string& location) {
              " and b.Enroll_No like ", quoted(location, "%"));
 }
 
-SqlText WithCategory(ExaminedBy examiner, const Period& period, const std::string& location) {
+SqlText WithCategory(Examiner examiner, const Period& period, const std::string& location) {
   return sql(Of(examiner,
                 " FROM ENROLL_MASTER A,CHILD_RECORD B,child_diagnosis c,diagnosis_master d,category_master e",
                 " FROM ENROLL_MASTER A,CHILD_RECORDos B,child_diagnosisos c,diagnosis_master d,"
@@ -44,7 +44,7 @@ SqlText WithCategory(ExaminedBy examiner, const Period& period, const std::strin
 
 }  // namespace
 
-SqlText DefectedChildren(ExaminedBy examiner, const Period& period, const std::string& location) {
+SqlText DefectedChildren(Examiner examiner, const Period& period, const std::string& location) {
   return sql("Select a.Enroll_no,b.Child_Name,b.fname,b.age,", kGenderInFull,
              Of(examiner, " from Child_Record a,Enroll_Master b", " from Child_Recordos a,Enroll_Master b"),
              " where  a.Record_date between ", quoted(period.from), " and ", quoted(period.to),
@@ -52,7 +52,7 @@ SqlText DefectedChildren(ExaminedBy examiner, const Period& period, const std::s
              " and  a.Enroll_no=b.Enroll_no and a.Eye_Condition='D' order by b.Child_Name");
 }
 
-SqlText DiagnosesOfPeriod(ExaminedBy examiner, const Period& period, const std::string& location) {
+SqlText DiagnosesOfPeriod(Examiner examiner, const Period& period, const std::string& location) {
   return sql("Select b.Enroll_no ,c.Diagnosis_Name",
              Of(examiner, " from Child_Diagnosis a,Child_Record b,Diagnosis_Master c",
                 " from Child_Diagnosisos a,Child_Recordos b,Diagnosis_Master c"),
@@ -87,12 +87,12 @@ SqlText ProgrammeTreatments(const std::string& location) {
              " and b.Enroll_No=d.Enroll_No and d.Programme_Code='GRANT2016'", kTreatmentJoin);
 }
 
-SqlText ChildrenWithCategory(ExaminedBy examiner, const Period& period, const std::string& location) {
+SqlText ChildrenWithCategory(Examiner examiner, const Period& period, const std::string& location) {
   return sql("select distinct B.ENROLL_NO,CHILD_NAME,FNAME,AGE,GENDER,CLASS",
              WithCategory(examiner, period, location), " order by CHILD_NAME");
 }
 
-SqlText CategoriesOfChildren(ExaminedBy examiner, const Period& period, const std::string& location) {
+SqlText CategoriesOfChildren(Examiner examiner, const Period& period, const std::string& location) {
   return sql("select distinct B.ENROLL_NO,e.category", WithCategory(examiner, period, location));
 }
 

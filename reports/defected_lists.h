@@ -6,17 +6,15 @@
 
 #include "base/database/connection.h"
 #include "base/database/sql_text.h"
+#include "reports/examiner.h"
 #include "reports/listing.h"
 #include "reports/report_form.h"
 
 namespace ovindra {
 
-/// Whose examinations a list reads: the ophthalmic assistant's or those of the OS camps.
-enum class ExaminedBy { kAssistant, kSurgeon };
-
 /// The examinations of a period that found a defect, one row each.
-SqlText DefectedChildren(ExaminedBy examiner, const Period& period, const std::string& location);
-SqlText DiagnosesOfPeriod(ExaminedBy examiner, const Period& period, const std::string& location);
+SqlText DefectedChildren(Examiner examiner, const Period& period, const std::string& location);
+SqlText DiagnosesOfPeriod(Examiner examiner, const Period& period, const std::string& location);
 /// Always those of the assistant's examinations.
 SqlText TreatmentsOfPeriod(const Period& period, const std::string& location);
 
@@ -26,8 +24,8 @@ SqlText ProgrammeDiagnoses(const std::string& location);
 SqlText ProgrammeTreatments(const std::string& location);
 
 /// The defected children enrolled in a period that have a diagnosis, and the categories of their diagnoses.
-SqlText ChildrenWithCategory(ExaminedBy examiner, const Period& period, const std::string& location);
-SqlText CategoriesOfChildren(ExaminedBy examiner, const Period& period, const std::string& location);
+SqlText ChildrenWithCategory(Examiner examiner, const Period& period, const std::string& location);
+SqlText CategoriesOfChildren(Examiner examiner, const Period& period, const std::string& location);
 
 /// Joins the descriptions into the column; one of spectacles that comes first tells whether they are free or
 /// paid.

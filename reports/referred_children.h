@@ -13,8 +13,8 @@ class frmreferallist : public CampReportForm {
   explicit frmreferallist(Module1& module);
 
  private:
-  ComboBox Combo3{*this, "Combo3", "", DropDownCombo, Hidden};
   Button Command1{*this, "Command1", "&Get"};
+  ComboBox Combo3{*this, "Combo3", "", DropDownCombo, Hidden};
   Button Command2{*this, "Command2", "&Print", Disabled};
   Button Command4{*this, "Command4", "&Export To Excel", Hidden};
   Button Command3{*this, "Command3", "&Close"};

@@ -16,14 +16,14 @@ class frmtrainedPerlist : public ReportForm {
  private:
   ComboBox Combo2{*this, "Combo2", "Person Type", DropDownList};
   ComboBox Combo1{*this, "Combo1", "Select Center Name ", DropDownList};
+  Button Command1{*this, "Command1", "&Get"};
+  DatePicker DTPicker1{*this, "DTPicker1", "From : "};
+  DatePicker DTPicker2{*this, "DTPicker2", "To : "};
+  ComboBox Combo4{*this, "Combo4", "Programme", DropDownCombo};
+  Button Command7{*this, "Command7", "Show"};
   Label Label6{*this, "Label6", "Block Name", Hidden};
   ComboBox Combo3{*this, "Combo3", "", DropDownCombo, Hidden};
   Button Command5{*this, "Command5", "Show", Hidden};
-  ComboBox Combo4{*this, "Combo4", "Programme", DropDownCombo};
-  Button Command7{*this, "Command7", "Show"};
-  DatePicker DTPicker1{*this, "DTPicker1", "From : "};
-  DatePicker DTPicker2{*this, "DTPicker2", "To : "};
-  Button Command1{*this, "Command1", "&Get"};
   Button Command2{*this, "Command2", "&Print", Disabled};
   Button Command4{*this, "Command4", "&Export To Excel", Hidden};
   Button Command3{*this, "Command3", "&Close"};

@@ -1,228 +1,345 @@
-// The lists of children on the demonstration programme beside the same gathered child by child.
+// The lists of children on the demonstration programme beside the same lists made child by child.
 #include <algorithm>
-#include <functional>
+#include <set>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
-#include "core/entry/lookups.h"
-#include "tests/unit/reports/demonstration.h"
+#include "tests/unit/reports/demo_desk.h"
 #include "tools/setup/demo/demo.h"
 
 namespace ovindra {
 namespace {
 
 using std::chrono::month;
-using Rows = std::vector<std::vector<std::string>>;
 
-constexpr Date kFrom{std::chrono::year(2014), month(10), std::chrono::day(1)};
-constexpr Date kTo{std::chrono::year(2016), month(3), std::chrono::day(31)};
 constexpr int kFirstRow = 6;
+constexpr Date kFrom{std::chrono::year(2015), month(4), std::chrono::day(1)};
+constexpr Date kTo{std::chrono::year(2016), month(3), std::chrono::day(31)};
 
-bool IsCovered(Date day) {
-  return day >= kFrom && day <= kTo;
+bool IsInPeriod(const std::string& day) {
+  return day >= "2015-04-01" && day <= "2016-03-31";
 }
 
-/// The rows below the headings without their numbers, which must run from 1.
-Rows RowsOn(const ReportDesk& desk, int last_column) {
-  Rows rows;
-  for (int row = kFirstRow; row <= desk.sheet().last_row(); ++row) {
-    std::vector<std::string> cells = desk.Row(row, last_column);
-    EXPECT_EQ(cells.front(), std::to_string(row - kFirstRow + 1));
-    cells.erase(cells.begin());
-    rows.push_back(std::move(cells));
-  }
+/// Rows of a table by the value of a column.
+using Keyed = std::multimap<std::string, TableRow>;
+
+Keyed KeyedBy(const char* column, const TableRows& rows) {
+  Keyed keyed;
+  for (const TableRow& row : rows) keyed.emplace(row.at(column), row);
+  return keyed;
+}
+
+std::vector<TableRow> Of(const Keyed& keyed, const std::string& key) {
+  std::vector<TableRow> rows;
+  const auto [begin, end] = keyed.equal_range(key);
+  for (auto row = begin; row != end; ++row) rows.push_back(row->second);
   return rows;
 }
 
-Rows Sorted(Rows rows) {
-  std::sort(rows.begin(), rows.end());
-  return rows;
-}
-
-void ExpectInOrderOf(std::size_t column, const Rows& rows) {
-  EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end(),
-                             [&](const auto& a, const auto& b) { return a[column] < b[column]; }));
-}
-
-Rows Children(const std::function<bool(const ChildFacts&)>& belongs, bool with_class) {
-  Rows rows;
-  for (const auto& [number, child] : DemonstrationFacts().children) {
-    if (!belongs(child)) continue;
-    rows.push_back({number, child.name, child.father, child.age, child.gender});
-    if (with_class) rows.back().push_back(child.school_class);
-  }
-  return Sorted(rows);
-}
-
-std::string CodeOfCenter(const Lookup& look_up, std::string_view name) {
-  return Trim(DemonstrationDatabase().Run(sql(look_up.statement, quoted(name))).At(0));
-}
-
-struct Place {
-  const char* name;
-  const char* type;
-  char location;
-  const Lookup* enrolled_center;
-  const Lookup* screened_center;
-};
-
-class ChildLists : public testing::TestWithParam<Place> {
- protected:
-  /// Has the list shown for some centers, and hands each to the check with its code.
-  void ForSomeCenters(ReportDesk& desk, const Lookup& look_up,
-                      const std::function<void(const std::string&)>& check) {
-    constexpr int kCenters = 3;
-    const int count = std::min<int>(kCenters, desk.Entries("Combo2").count());
-    ASSERT_GT(count, 0);
-    for (int i = 0; i < count; ++i) {
-      const std::string center = desk.Entries("Combo2").At(i).text;
-      desk.Pick("Combo2", center);
-      desk.Click("Command1");
-      check(CodeOfCenter(look_up, center));
-    }
-  }
-
-  std::size_t listed_ = 0;
-};
-
-TEST_P(ChildLists, OfTheEnrolled) {
-  ReportDesk desk("frmenrolllist");
-  desk.SetPeriod(kFrom, kTo);
-  desk.Pick("Combo4", "GRANT 2016");
-  desk.Pick("Combo1", GetParam().type);
-  ForSomeCenters(desk, *GetParam().enrolled_center, [&](const std::string& center) {
-    const Rows rows = RowsOn(desk, 7);
-    listed_ += rows.size();
-    EXPECT_EQ(Sorted(rows), Children(
-                                [&](const ChildFacts& child) {
-                                  return child.enroll_no.front() == GetParam().location &&
-                                         child.center == center && IsCovered(child.enrolled);
-                                },
-                                true));
-    ExpectInOrderOf(1, rows);
-  });
-  EXPECT_GT(listed_, 0U);
-}
-
-TEST_P(ChildLists, OfTheScreened) {
-  const struct {
-    const char* option;
-    const char* condition;
-  } kOptions[] = {{"Option1", ""}, {"Option2", "N"}, {"Option3", "D"}};
-  ReportDesk desk("frmscreenedlist");
-  desk.SetPeriod(kFrom, kTo);
-  desk.Pick("Combo1", GetParam().type);
-  for (const auto& option : kOptions) {
-    desk.SwitchOn(option.option);
-    ForSomeCenters(desk, *GetParam().screened_center, [&](const std::string& center) {
-      const Rows rows = RowsOn(desk, 6);
-      listed_ += rows.size();
-      EXPECT_EQ(Sorted(rows), Children(
-                                  [&](const ChildFacts& child) {
-                                    return child.enroll_no.front() == GetParam().location &&
-                                           child.center == center && child.screened == "Y" &&
-                                           child.screened_on && IsCovered(*child.screened_on) &&
-                                           (*option.condition == '\0' || child.condition == option.condition);
-                                  },
-                                  false));
-    });
-  }
-  // The demonstration stores its anganwadi children under their screening centers.
-  EXPECT_EQ(listed_ > 0, GetParam().location != 'A');
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Places, ChildLists,
-    testing::Values(Place{"Vision", "VISION CENTER", 'V', &lookup::kVisionCenter, &lookup::kVisionCenter},
-                    Place{"Hospital", "HOSPITAL", 'H', &lookup::kHospital, &lookup::kHospital},
-                    Place{"Anganwadi", "ANGANWADI CENTER", 'A', &lookup::kScreeningCenter,
-                          &lookup::kAnganwadiCenter}),
-    [](const auto& row) { return std::string(row.param.name); });
-
-TEST(EnrollReport, CountsByAgeAndGender) {
-  const struct {
-    const char* type;
-    char location;
-  } kTypes[] = {{"HOSPITAL", 'H'}, {"VISION CENTER", 'V'}, {"ANGANWADI CENTER", 'A'}};
-  const std::pair<int, int> kAges[] = {{0, 5}, {6, 10}, {11, 15}, {16, 18}};
-  ReportDesk desk("frmenrollrpt");
-  desk.SetPeriod(kFrom, kTo);
-  for (const auto& type : kTypes) {
-    desk.Pick("Combo1", type.type);
-    desk.Click("Command1");
-    int row = 7;
-    for (const auto& [youngest, oldest] : kAges) {
-      std::vector<std::string> counts;
-      for (const bool screened : {false, true}) {
-        for (const char* gender : {"M", "F"}) {
-          const auto count =
-              std::count_if(DemonstrationFacts().children.begin(), DemonstrationFacts().children.end(),
-                            [&, from = youngest, to = oldest](const auto& c) {
-                              const ChildFacts& child = c.second;
-                              if (child.age.empty() || child.enroll_no.front() != type.location) return false;
-                              const int age = std::stoi(child.age);
-                              return age >= from && age <= to && IsCovered(child.enrolled) &&
-                                     child.gender == gender && (!screened || child.screened == "Y");
-                            });
-          counts.push_back("    " + std::to_string(count));
-        }
-      }
-      const std::vector<std::string> cells = desk.Row(row++, 7);
-      EXPECT_EQ(std::vector(cells.begin() + 3, cells.end()), counts) << type.type;
-    }
-  }
-}
-
-/// The parts of a joined cell in order, what stands behind the first treatment's slash taken off.
-std::string SortedParts(const std::string& joined) {
-  std::vector<std::string> parts;
-  std::istringstream stream(joined);
-  for (std::string part; std::getline(stream, part, ',');) parts.push_back(part.substr(0, part.find('/')));
-  std::sort(parts.begin(), parts.end());
+std::string WithCommas(const std::vector<std::string>& names) {
   std::string text;
-  for (const std::string& part : parts) text += part + ",";
+  for (const std::string& name : names) text += (text.empty() ? "" : ",") + name;
   return text;
 }
 
-TEST(DefectedReport, JoinsWhatEveryExaminationFound) {
-  for (const bool surgeons : {false, true}) {
-    ReportDesk desk("frmdefected");
-    desk.SetPeriod(kFrom, kTo);
-    desk.Pick("Combo1", "HOSPITAL");
-    if (surgeons) desk.SwitchOn("Option2");
-    desk.Click("Command1");
-    ASSERT_TRUE(desk.messages().empty()) << desk.messages().front();
+/// The pieces between the commas in the order of their texts. The statements ask for none, and a name of the
+/// hospital's may hold a comma itself.
+std::string Sorted(const std::string& joined) {
+  std::vector<std::string> pieces;
+  std::istringstream text(joined);
+  for (std::string piece; std::getline(text, piece, ',');) pieces.push_back(piece);
+  std::sort(pieces.begin(), pieces.end());
+  return WithCommas(pieces);
+}
 
-    std::map<std::string, std::string> diagnoses;
-    std::map<std::string, std::string> treatments;
-    const auto& read = surgeons ? DemonstrationFacts().surgeons : DemonstrationFacts().assistants;
-    for (const ExaminationFacts& record : read) {
-      if (!IsCovered(record.examined)) continue;
-      for (const std::string& name : record.diagnoses) diagnoses[record.enroll_no] += name + ",";
-    }
-    for (const ExaminationFacts& record : DemonstrationFacts().assistants) {
-      if (!IsCovered(record.examined)) continue;
-      for (const int code : record.treatments)
-        treatments[record.enroll_no] += DemonstrationFacts().treatment_names.at(code) + ",";
-    }
-    Rows expected;
-    for (const ExaminationFacts& record : read) {
-      if (!IsCovered(record.examined) || record.condition != "D" || record.enroll_no.front() != 'H') continue;
-      const ChildFacts& child = DemonstrationFacts().children.at(record.enroll_no);
-      expected.push_back({child.name, child.father, child.age, child.gender == "M" ? "MALE" : "FEMALE",
-                          child.school_class, SortedParts(diagnoses[record.enroll_no]),
-                          SortedParts(treatments[record.enroll_no])});
-    }
-    Rows rows = RowsOn(desk, 8);
-    ASSERT_FALSE(rows.empty());
-    ExpectInOrderOf(0, rows);
-    for (auto& row : rows) {
-      row[5] = SortedParts(row[5]);
-      row[6] = SortedParts(row[6]);
-    }
-    EXPECT_EQ(Sorted(rows), Sorted(expected));
+std::string Joined(const std::vector<std::string>& names) {
+  return Sorted(WithCommas(names));
+}
+
+/// The lines in an order of their own, the joined names of those columns too.
+std::multiset<SheetLine> Normal(std::vector<SheetLine> lines, std::initializer_list<std::size_t> joined) {
+  for (SheetLine& line : lines) {
+    for (const std::size_t column : joined) line[column] = Sorted(line[column]);
   }
+  return {lines.begin(), lines.end()};
+}
+
+/// The examinations of one camp.
+struct Examinations {
+  explicit Examinations(const std::string& suffix)
+      : records(DemoDesk::ScreeningTable("Child_Record" + suffix)),
+        treatments(KeyedBy("Child_RecordNo", DemoDesk::ScreeningTable("Child_Treatment" + suffix))),
+        diagnoses(KeyedBy("Child_RecordNo", DemoDesk::ScreeningTable("Child_Diagnosis" + suffix))) {}
+
+  TableRows records;
+  Keyed treatments;
+  Keyed diagnoses;
+};
+
+struct Programme {
+  Keyed children = KeyedBy("Enroll_No", DemoDesk::ScreeningTable("Enroll_Master"));
+  Keyed schools = KeyedBy("SC_ID", DemoDesk::ScreeningTable("School_Master"));
+  Keyed sankuls = KeyedBy("Sankul_ID", DemoDesk::ScreeningTable("Sankul_Master"));
+  Keyed registers = KeyedBy("School_ID", DemoDesk::ScreeningTable("Screened_School"));
+  Keyed diagnosis_names = KeyedBy("Diagnosis_Code", DemoDesk::ScreeningTable("Diagnosis_Master"));
+  TableRows blocks = DemoDesk::ScreeningTable("Block_Master");
+  TableRows states = DemoDesk::ScreeningTable("State_Master");
+  TableRows locations = DemoDesk::ScreeningTable("Location_Master");
+  Examinations assistants{""};
+  Examinations surgeons{"OS"};
+
+  const TableRow& Child(const TableRow& record) const {
+    return children.find(record.at("Enroll_No"))->second;
+  }
+
+  std::vector<std::string> Diagnoses(const Examinations& examinations, const std::string& record) const {
+    std::vector<std::string> names;
+    for (const TableRow& row : Of(examinations.diagnoses, record))
+      names.push_back(diagnosis_names.find(row.at("Diagnosis_Code"))->second.at("Diagnosis_Name"));
+    return names;
+  }
+
+  /// The sankul and the school of a child, once for each register row of the school.
+  std::set<std::pair<std::string, std::string>> Schools(const TableRow& child) const {
+    std::set<std::pair<std::string, std::string>> found;
+    for (const TableRow& school : Of(schools, child.at("School_ID"))) {
+      for (const TableRow& row : Of(registers, child.at("School_ID"))) {
+        for (const TableRow& sankul : Of(sankuls, row.at("Sankul_ID")))
+          found.emplace(sankul.at("Sankul_Name"), school.at("SC_Name"));
+      }
+    }
+    return found;
+  }
+};
+
+const Programme& Facts() {
+  static const Programme programme;
+  return programme;
+}
+
+std::string RemarkText(const std::string& remark) {
+  return remark == "F" ? "FREE" : remark == "P" ? "PAID" : "";
+}
+
+/// Which children a list of a camp is about.
+struct Choice {
+  const Examinations& examinations;
+  const char* area_column;
+  std::string area;
+  std::string location;
+  std::string treatment;
+};
+
+template <typename Visit>
+void ForEachTreated(const Choice& choice, Visit visit) {
+  for (const TableRow& record : choice.examinations.records) {
+    const TableRow& child = Facts().Child(record);
+    if (!IsInPeriod(record.at("Record_Date")) || child.at(choice.area_column) != choice.area ||
+        !child.at("Enroll_No").starts_with(choice.location))
+      continue;
+    for (const TableRow& row : Of(choice.examinations.treatments, record.at("Child_RecordNo"))) {
+      if (row.at("Treatment_Code") == choice.treatment) visit(child, row);
+    }
+  }
+}
+
+SheetLine Person(const TableRow& child, const std::string& name) {
+  return {name, child.at("Fname"), child.at("Age"), child.at("Gender"), child.at("Class")};
+}
+
+enum class Shape { kSpectacles, kWithSchool, kPlain };
+
+std::multiset<SheetLine> ReferredLines(const Choice& choice, Shape shape) {
+  std::map<std::string, std::vector<std::string>> diagnoses;
+  for (const TableRow& record : choice.examinations.records) {
+    if (!IsInPeriod(record.at("Record_Date"))) continue;
+    for (const std::string& name : Facts().Diagnoses(choice.examinations, record.at("Child_RecordNo")))
+      diagnoses[record.at("Enroll_No")].push_back(name);
+  }
+  std::set<SheetLine> lines;
+  ForEachTreated(choice, [&](const TableRow& child, const TableRow& treatment) {
+    const std::string number = child.at("Enroll_No");
+    SheetLine line = Person(child, child.at("Child_Name") + "(" + number + ")");
+    if (shape == Shape::kSpectacles) line.push_back(RemarkText(treatment.at("Remark")));
+    line.push_back(Joined(diagnoses[number]));
+    if (shape != Shape::kWithSchool) {
+      lines.insert(line);
+      return;
+    }
+    for (const auto& [sankul, school] : Facts().Schools(child)) {
+      SheetLine with_school = line;
+      with_school.insert(with_school.end(), {sankul, school});
+      lines.insert(with_school);
+    }
+  });
+  return {lines.begin(), lines.end()};
+}
+
+/// Gets the list for every location of the programme and compares; gives the number of lines.
+template <typename Expected>
+std::size_t CompareForEachLocation(DemoDesk& desk, int columns, std::initializer_list<std::size_t> joined,
+                                   const char* location_combo, Expected expected) {
+  std::size_t total = 0;
+  for (const TableRow& location : Facts().locations) {
+    desk.Pick(location_combo, location.at("Location_Name"));
+    desk.Click("Command1");
+    const auto lines = Normal(desk.Lines(kFirstRow, columns), joined);
+    EXPECT_EQ(lines, expected(location.at("Location_ID"))) << location.at("Location_Name");
+    const auto messages = desk.TakeMessages();
+    EXPECT_TRUE(messages.empty() || lines.empty()) << messages.front();
+    total += lines.size();
+  }
+  return total;
+}
+
+TEST(ChildLists, ReferredOfEachBlock) {
+  DemoDesk desk("frmreferallist");
+  desk.SetPeriod(kFrom, kTo);
+  std::size_t total = 0;
+  for (const TableRow& block : Facts().blocks) {
+    desk.Pick("Combo1", block.at("Block_Name"));
+    total += CompareForEachLocation(desk, 9, {5}, "Combo4", [&](const std::string& location) {
+      return ReferredLines({Facts().assistants, "Block_Code", block.at("Block_Code"), location, "3"},
+                           Shape::kWithSchool);
+    });
+  }
+  EXPECT_GT(total, 0U);
+}
+
+TEST(ChildLists, ReferredOfAState) {
+  DemoDesk desk("frmreferallist");
+  desk.SetPeriod(kFrom, kTo);
+  desk.SelectTab(1);
+  const TableRow& state = Facts().states.front();
+  desk.Pick("Combo2", state.at("State_Name"));
+  struct {
+    const char* option;
+    const Examinations& examinations;
+    const char* treatment;
+    const char* description;
+  } const kCases[] = {{"Option1", Facts().assistants, "3", "REFER TO OS CAMP"},
+                      {"Option1", Facts().assistants, "2", "SPECTACLE PRESCRIBED"},
+                      {"Option2", Facts().surgeons, "4", "REFER TO EYE HOSPITAL"},
+                      {"Option2", Facts().surgeons, "2", "SPECTACLE PRESCRIBED"}};
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(std::string(c.option) + " " + c.description);
+    desk.Click(c.option);
+    desk.Pick("Combo3", c.description);
+    const Shape shape = std::string_view(c.treatment) == "2" ? Shape::kSpectacles : Shape::kPlain;
+    const std::size_t diagnosis = shape == Shape::kSpectacles ? 6 : 5;
+    const std::size_t total = CompareForEachLocation(
+        desk, static_cast<int>(diagnosis) + 2, {diagnosis}, "Combo4", [&](const std::string& location) {
+          return ReferredLines({c.examinations, "State_Code", state.at("State_Code"), location, c.treatment},
+                               shape);
+        });
+    EXPECT_GT(total, 0U);
+  }
+}
+
+TEST(ChildLists, SpectaclesOfEachBlock) {
+  DemoDesk desk("frmspectacle");
+  desk.SetPeriod(kFrom, kTo);
+  std::size_t total = 0;
+  for (const char* option : {"Option1", "Option2"}) {
+    desk.Click(option);
+    const Examinations& examinations =
+        std::string_view(option) == "Option1" ? Facts().assistants : Facts().surgeons;
+    for (const TableRow& block : Facts().blocks) {
+      desk.Pick("Combo1", block.at("Block_Name"));
+      total += CompareForEachLocation(desk, 7, {}, "Combo4", [&](const std::string& location) {
+        std::set<SheetLine> lines;
+        ForEachTreated({examinations, "Block_Code", block.at("Block_Code"), location, "2"},
+                       [&](const TableRow& child, const TableRow& treatment) {
+                         SheetLine line = Person(child, child.at("Child_Name"));
+                         line.push_back(RemarkText(treatment.at("Remark")));
+                         lines.insert(line);
+                       });
+        return std::multiset<SheetLine>(lines.begin(), lines.end());
+      });
+    }
+  }
+  EXPECT_GT(total, 0U);
+}
+
+/// The diagnoses that the hospital holds of a patient, each once.
+std::vector<std::string> HospitalDiagnoses(const std::string& mr_no) {
+  static const Keyed records = KeyedBy("mr_no", DemoDesk::HospitalTable("medical_record_dtl"));
+  static const Keyed codes = KeyedBy("icd_code", DemoDesk::HospitalTable("icd_code_master"));
+  std::set<std::string> names;
+  for (const TableRow& row : Of(records, mr_no))
+    names.insert(codes.find(row.at("icd_code"))->second.at("icd_description"));
+  return {names.begin(), names.end()};
+}
+
+std::multiset<SheetLine> TurnupLines(const std::string& block, const std::string& location) {
+  std::map<std::string, std::vector<std::string>> diagnoses;
+  std::map<std::string, std::set<SheetLine>> of_patient;
+  for (const TableRow& record : Facts().assistants.records) {
+    const TableRow& child = Facts().Child(record);
+    if (!IsInPeriod(child.at("Enroll_Date")) || child.at("Attend") != "Y" ||
+        child.at("Block_Code") != block || !child.at("Enroll_No").starts_with(location))
+      continue;
+    for (const TableRow& row : Of(Facts().assistants.treatments, record.at("Child_RecordNo"))) {
+      if (row.at("Treatment_Code") != "4") continue;
+      for (const std::string& name : Facts().Diagnoses(Facts().assistants, record.at("Child_RecordNo")))
+        diagnoses[child.at("Enroll_No")].push_back(name);
+      for (const auto& [sankul, school] : Facts().Schools(child)) {
+        SheetLine line = Person(child, child.at("Child_Name"));
+        line.insert(line.begin(), child.at("Mr_No"));
+        line.insert(line.end(), {school, sankul, child.at("Enroll_No")});
+        of_patient[child.at("Mr_No")].insert(line);
+      }
+    }
+  }
+  std::multiset<SheetLine> lines;
+  for (const auto& [mr_no, same] : of_patient) {
+    std::vector<std::string> hospital;
+    for (std::size_t row = 0; row < same.size(); ++row) {
+      for (const std::string& name : HospitalDiagnoses(mr_no)) hospital.push_back(name);
+    }
+    for (SheetLine line : same) {
+      line.back() = Joined(diagnoses[line.back()]);
+      line.push_back(Joined(hospital));
+      lines.insert(line);
+    }
+  }
+  return lines;
+}
+
+TEST(ChildLists, TurnedUpOfEachBlock) {
+  DemoDesk desk("frmturnup");
+  desk.SetPeriod(kFrom, kTo);
+  std::size_t total = 0;
+  for (const TableRow& block : Facts().blocks) {
+    desk.Pick("Combo2", block.at("Block_Name"));
+    total += CompareForEachLocation(desk, 11, {8, 9}, "Combo1", [&](const std::string& location) {
+      return TurnupLines(block.at("Block_Code"), location);
+    });
+  }
+  EXPECT_GT(total, 0U);
+}
+
+TEST(ChildLists, MissedOfEachSchool) {
+  DemoDesk desk("Form1");
+  std::set<std::string> examined;
+  for (const TableRow& record : Facts().assistants.records) examined.insert(record.at("Enroll_No"));
+  std::size_t total = 0;
+  for (const auto& [code, school] : Facts().schools) {
+    std::multiset<SheetLine> expected;
+    for (const auto& [number, child] : Facts().children) {
+      if (child.at("School_ID") != code || child.at("Screened") != "Y" || examined.contains(number)) continue;
+      SheetLine line = Person(child, child.at("Child_Name"));
+      line.insert(line.begin(), number);
+      expected.insert(line);
+    }
+    desk.Pick("Combo3", school.at("SC_Name"));
+    desk.Click("Command1");
+    EXPECT_EQ(Normal(desk.Lines(kFirstRow, 7), {}), expected) << school.at("SC_Name");
+    desk.TakeMessages();
+    total += expected.size();
+  }
+  EXPECT_GT(total, 0U);
 }
 
 }  // namespace
