@@ -106,7 +106,8 @@ const ReferralList& ListOf(bool of_spectacles, Area area) {
 int WriteRows(Sheet& sheet, const Grid& grid) {
   int row = kHeadingRow;
   for (int grid_row = grid.fixed_rows(); grid_row < grid.rows(); ++grid_row) {
-    sheet.SetCellText(++row, 1, grid_row);
+    ++row;
+    sheet.SetCellText(row, 1, row - kHeadingRow);
     sheet.SetCellText(row, 2, grid.Cell(grid_row, 1) + "(" + grid.Cell(grid_row, 0) + ")");
     for (int column = 2; column < grid.columns(); ++column)
       sheet.SetCellText(row, column + 1, Trim(grid.Cell(grid_row, column)));

@@ -82,7 +82,7 @@ frmspectaclepwr::frmspectaclepwr(Module1& module_values)
   Plain(Command3.click, &frmspectaclepwr::Close);
   Guarded(Command4.click, &frmspectaclepwr::Export);
   Plain(Command5.click, &frmspectaclepwr::CountBySex);
-  Plain(Command6.click, &frmspectaclepwr::HideCount);
+  Plain(sexes_.Command6.click, &frmspectaclepwr::HideCount);
   Guarded(Command9.click, &frmspectaclepwr::ProgrammeWise);
 }
 
@@ -168,7 +168,7 @@ int frmspectaclepwr::WriteLayout(const PowerLayout& layout, Recordset& records) 
 }
 
 void frmspectaclepwr::CountBySex() {
-  Frame3.SetVisible(true);
+  sexes_.Frame3.SetVisible(true);
   int males = 0;
   int females = 0;
   for (int row = kHeadingRow; row < LastRow; ++row) {
@@ -176,9 +176,9 @@ void frmspectaclepwr::CountBySex() {
     males += gender == "MALE" ? 1 : 0;
     females += gender == "FEMALE" ? 1 : 0;
   }
-  Text1.SetText(NumberText(males));
-  Text2.SetText(NumberText(females));
-  Text3.SetText(NumberText(males + females));
+  sexes_.Text1.SetText(NumberText(males));
+  sexes_.Text2.SetText(NumberText(females));
+  sexes_.Text3.SetText(NumberText(males + females));
 }
 
 void frmspectaclepwr::Print() {

@@ -2,9 +2,8 @@
 // of location, a block or a programme.
 #pragma once
 
-#include "base/controls/frame.h"
-#include "base/controls/text_box.h"
 #include "reports/report_form.h"
+#include "reports/sex_count.h"
 
 namespace ovindra {
 
@@ -28,11 +27,7 @@ class frmspectaclepwr : public ReportForm {
   Button Command4{*this, "Command4", "&Export To Excel"};
   Button Command3{*this, "Command3", "&Close"};
   ReportSheet F1Book1{*this, "F1Book1"};
-  Frame Frame3{*this, "Frame3", "Spectacle Report", Hidden};
-  TextBox Text1{Frame3, "Text1", "Male"};
-  TextBox Text2{Frame3, "Text2", "Female"};
-  TextBox Text3{Frame3, "Text3", "Total"};
-  Button Command6{Frame3, "Command6", "&OK"};
+  SexCount sexes_{*this};
 
   void OnLoad();
   void PressKey(KeyName key);
@@ -40,7 +35,7 @@ class frmspectaclepwr : public ReportForm {
   void Get();
   void ProgrammeWise();
   void CountBySex();
-  void HideCount() { Frame3.SetVisible(false); }
+  void HideCount() { sexes_.Frame3.SetVisible(false); }
   void Print();
   void Export();
 

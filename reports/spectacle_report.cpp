@@ -15,7 +15,7 @@ SqlText Prescribed(const CampCoverage& coverage) {
 }
 
 /// Counts treatments, where the list shows different children.
-SqlText SexCount(const CampCoverage& coverage) {
+SqlText TreatmentsBySex(const CampCoverage& coverage) {
   return sql(
       coverage.camp == Camp::kAssistant
           ? Fragment("Select gender,count(*) as tot  from Enroll_Master a,Child_Record b,Child_Treatment c")
@@ -36,7 +36,7 @@ frmspectacle::frmspectacle(Module1& module_values)
   Plain(Command3.click, &frmspectacle::Close);
   Guarded(Command4.click, &frmspectacle::Export);
   Plain(Command5.click, &frmspectacle::CountBySex);
-  Plain(Command6.click, &frmspectacle::HideCount);
+  Plain(sexes_.Command6.click, &frmspectacle::HideCount);
 }
 
 void frmspectacle::PressKey(KeyName key) {
@@ -64,14 +64,14 @@ void frmspectacle::BuildList() {
 }
 
 void frmspectacle::CountBySex() {
-  Recordset counts = database().Execute(SexCount(ReadCoverage()));
+  Recordset counts = database().Execute(TreatmentsBySex(ReadCoverage()));
   for (; !counts.Eof(); counts.MoveNext()) {
     const std::string gender = Trim(counts["Gender"]);
-    if (gender == "F") Text2.SetText(Trim(counts["tot"]));
-    if (gender == "M") Text1.SetText(Trim(counts["tot"]));
+    if (gender == "F") sexes_.Text2.SetText(Trim(counts["tot"]));
+    if (gender == "M") sexes_.Text1.SetText(Trim(counts["tot"]));
   }
-  Text3.SetText(NumberText(Val(Text1.text()) + Val(Text2.text())));
-  Frame3.SetVisible(true);
+  sexes_.Text3.SetText(NumberText(Val(sexes_.Text1.text()) + Val(sexes_.Text2.text())));
+  sexes_.Frame3.SetVisible(true);
 }
 
 void frmspectacle::Print() {

@@ -2,9 +2,8 @@
 // count by sex.
 #pragma once
 
-#include "base/controls/frame.h"
-#include "base/controls/text_box.h"
 #include "reports/camp_report.h"
+#include "reports/sex_count.h"
 
 namespace ovindra {
 
@@ -19,17 +18,13 @@ class frmspectacle : public CampReportForm {
   Button Command4{*this, "Command4", "&Export to Excel", Hidden};
   Button Command3{*this, "Command3", "&Close"};
   ReportSheet F1Book1{*this, "F1Book1"};
-  Frame Frame3{*this, "Frame3", "Spectacle Report", Hidden};
-  TextBox Text1{Frame3, "Text1", "Male"};
-  TextBox Text2{Frame3, "Text2", "Female"};
-  TextBox Text3{Frame3, "Text3", "Total"};
-  Button Command6{Frame3, "Command6", "&OK"};
+  SexCount sexes_{*this};
 
   void OnLoad() { OpenSelections(); }
   void PressKey(KeyName key);
   void Get();
   void CountBySex();
-  void HideCount() { Frame3.SetVisible(false); }
+  void HideCount() { sexes_.Frame3.SetVisible(false); }
   void Print();
   void Export();
 
