@@ -18,7 +18,7 @@ class frmturnup : public ReportForm {
   DatePicker DTPicker2{*this, "DTPicker2", "To : "};
   Button Command1{*this, "Command1", "&Get"};
   Button Command2{*this, "Command2", "&Print", Disabled};
-  Button Command4{*this, "Command4", "&Export To Excel"};
+  Button Command4{*this, "Command4", "&Export to Excel"};
   Button Command3{*this, "Command3", "&Close"};
   ReportSheet F1Book1{*this, "F1Book1"};
   Grid MSFlexGrid1{*this,
