@@ -35,7 +35,8 @@ void SheetBinding::FindBarOpened() {
   if (!is_finding_) {
     const Control* focused = view().form().focused();
     before_ = focused == nullptr ? nullptr : view().BindingOf(*focused);
-    shown_.find_bar()->edit().installEventFilter(this);
+    find_edit_ = &shown_.find_bar()->edit();
+    find_edit_->installEventFilter(this);
   }
   is_finding_ = true;
   view().UserFocus(*this, FocusBy::kKeyboard);
@@ -58,7 +59,8 @@ void SheetBinding::MousePressed() {
 }
 
 bool SheetBinding::eventFilter(QObject* watched, QEvent* event) {
-  const bool in_bar = shown_.find_bar() != nullptr && watched == &shown_.find_bar()->edit();
+  // The view itself may be going while its parts still send events.
+  const bool in_bar = find_edit_ != nullptr && watched == find_edit_;
   if (!in_bar) return WidgetBinding::eventFilter(watched, event);
   if (view().IsRetired()) return false;
   if (event->type() == QEvent::FocusIn && !view().IsShowing()) {

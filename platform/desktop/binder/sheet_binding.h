@@ -32,6 +32,7 @@ class SheetBinding : public WidgetBinding {
   SheetModel model_;
   std::optional<std::uint64_t> shown_revision_;
   bool is_finding_ = false;
+  QPointer<QWidget> find_edit_;
   /// What had the focus before a text was looked for.
   WidgetBinding* before_ = nullptr;
 };
