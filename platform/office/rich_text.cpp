@@ -10,7 +10,7 @@
 namespace ovindra::office {
 namespace {
 
-/// The rules are those of the Rich Text Format specification 1.9.1: \uN is a signed UTF-16 unit, followed by
+/// By the published rules of Rich Text Format 1.9.1 \uN is a signed UTF-16 unit, followed by
 /// the one character that \uc1 promises to readers that don't know it.
 void AppendUnicode(std::string& out, char32_t character) {
   ForEachUtf16Unit(character, [&](std::uint16_t unit) {
