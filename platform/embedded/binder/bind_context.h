@@ -39,6 +39,9 @@ std::vector<bound::SourcePtr> BindFrom(const syntax::FromList& from, BindContext
 const CatalogTable& TableNamed(const syntax::ObjectName& name, BindContext& context);
 /// The same, of a table whose rows can be changed.
 const CatalogTable& ChangeableTable(const syntax::ObjectName& name, BindContext& context);
+/// Refuses a name that a new table, view or index can't have: tables, views and indexes share one room of
+/// names in SQLite, which keeps some of them for itself.
+void RequireNewName(const syntax::Name& name, BindContext& context);
 /// The column of that name; refuses one that is not there.
 const CatalogColumn& ColumnNamed(const CatalogTable& table, const std::string& name);
 

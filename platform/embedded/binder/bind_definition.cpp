@@ -121,9 +121,16 @@ std::vector<bound::ColumnDefinition> DefinitionsOf(const CatalogTable& table) {
 
 }  // namespace
 
+void RequireNewName(const syntax::Name& name, BindContext& context) {
+  if (Catalog::IsReserved(name.text)) throw NotSupported(name.text, name.offset);
+  const bool is_taken =
+      context.catalog.Find(name.text) != nullptr || !context.catalog.TableOfIndex(name.text).empty();
+  if (is_taken) throw TableExists(name.text);
+}
+
 bound::CreateTable BindCreateTable(const syntax::CreateTable& table, BindContext& context) {
   const std::string& name = table.table.name.text;
-  if (context.catalog.Find(name) != nullptr) throw TableExists(name);
+  RequireNewName(table.table.name, context);
   bound::CreateTable result{name, BindColumns(table.columns, context), {}};
   RequireUnique(result.columns, name);
   BindComputed(table.columns, name, result.columns, context);
@@ -158,7 +165,7 @@ bound::AddColumns BindAddColumns(const syntax::AddColumns& added, BindContext& c
 
 bound::CreateView BindCreateView(const syntax::CreateView& view, BindContext& context) {
   const std::string& name = view.view.name.text;
-  if (context.catalog.Find(name) != nullptr) throw TableExists(name);
+  RequireNewName(view.view.name, context);
   if (!view.query->order_by.empty() && !view.query->selects.front().top) throw OrderInside();
   if (view.query->selects.front().into) throw IntoInside();
   bound::CreateView result{name, BindQuery(*view.query, context, nullptr, QueryPlace::kOutermost)};
@@ -181,6 +188,7 @@ bound::CreateIndex BindCreateIndex(const syntax::CreateIndex& index, BindContext
   const CatalogTable& table = ChangeableTable(index.table, context);
   bound::CreateIndex result{index.index.text, index.is_unique, table.name, {}, nullptr};
   if (!context.catalog.TableOfIndex(result.index).empty()) throw IndexExists(result.index, table.name);
+  RequireNewName(index.index, context);
   for (const syntax::IndexColumn& column : index.columns) {
     result.columns.push_back({ColumnNamed(table, column.name.text).name, column.is_descending});
   }

@@ -296,7 +296,7 @@ bound::Query BindQuery(const syntax::Query& query, BindContext& context, const S
 
 bound::SelectInto BindSelectInto(const syntax::Query& query, BindContext& context) {
   const syntax::ObjectName& name = *query.selects.front().into;
-  if (context.catalog.Find(name.name.text) != nullptr) throw TableExists(name.name.text);
+  RequireNewName(name.name, context);
   bound::SelectInto result{name.name.text, BindQuery(query, context, nullptr, QueryPlace::kOutermost)};
   std::vector<bound::ResultColumn>& columns = result.query.columns;
   for (std::size_t i = 0; i < columns.size(); ++i) {

@@ -137,10 +137,14 @@ const CatalogTable* Catalog::Find(std::string_view name) {
   const std::string key = LowerCaseLatin(name);
   const auto known = tables_.find(key);
   if (known != tables_.end()) return known->second.get();
-  if (key.starts_with(kOwnPrefix)) return nullptr;
+  if (IsReserved(name)) return nullptr;
   auto table = Read(name);
   if (!table) return nullptr;
   return tables_.emplace(key, std::move(table)).first->second.get();
+}
+
+bool Catalog::IsReserved(std::string_view name) {
+  return LowerCaseLatin(name).starts_with(kOwnPrefix);
 }
 
 std::unique_ptr<CatalogTable> Catalog::Read(std::string_view name) {

@@ -52,6 +52,9 @@ class Catalog {
   /// The table or view of that name, without regard to case; null when there is none.
   const CatalogTable* Find(std::string_view name);
 
+  /// Whether SQLite keeps the name for itself.
+  static bool IsReserved(std::string_view name);
+
   /// The name of the table that an index of that name stands on; empty when there is no such index.
   std::string TableOfIndex(std::string_view index);
 

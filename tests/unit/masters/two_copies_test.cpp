@@ -75,7 +75,7 @@ class TwoCopies : public testing::Test {
   TwoCopies() {
     std::string name = (fs::temp_directory_path() / "two_copies_XXXXXX").string();
     root_ = mkdtemp(name.data());
-    EXPECT_EQ(Setup("create", "--user BOSS --password secret"), 0);
+    EXPECT_EQ(RunSetup("create", "--user BOSS --password secret"), 0);
     const auto screening = DatabasesFrom(Folder())(DatabaseName::kScreening, DatabaseContent::kEmpty);
     for (const char* row : {"insert into Block_Master(Block_Name,District_Code) values('MOTIPUR',1)",
                             "insert into Center_Master1(Center_Name,Sankul_ID,Programme_Code) "
@@ -87,7 +87,7 @@ class TwoCopies : public testing::Test {
   std::string Folder() const { return (root_ / "data").string(); }
 
   /// Runs a command of the setup program on the databases; its exit code.
-  int Setup(const std::string& command, const std::string& options) const {
+  int RunSetup(const std::string& command, const std::string& options) const {
     const std::string line = std::string(SETUP_PROGRAM) + " " + command + " " + Folder() + " " + options +
                              " >" + (root_ / "setup.txt").string() + " 2>&1";
     return std::system(line.c_str());
@@ -138,8 +138,8 @@ TEST_F(TwoCopies, ACounterThatStayedBehindIsMendedAndThenTheEntryIsSaved) {
   }
   EXPECT_EQ(second.Rows(kSchools), "SC1 HILL;");
 
-  Setup("check", "--repair");
-  EXPECT_EQ(Setup("check", ""), 0);
+  RunSetup("check", "--repair");
+  EXPECT_EQ(RunSetup("check", ""), 0);
   second.Save();
   EXPECT_EQ(second.clerk().TakeSeen(), (Seen{"Are You Sure Want to Save it", "This Record Saved"}));
   EXPECT_EQ(second.Rows(kSchools), "SC1 HILL;SC2 LAKE;");

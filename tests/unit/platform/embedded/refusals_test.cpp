@@ -72,6 +72,12 @@ TEST(ServerRefusals, OfNamesAndShapes) {
        "statement."},
       {"update Ward set No=5", "-2147217900 Cannot update identity column 'No'."},
       {"create table Ward (x int)", "-2147217900 There is already an object named 'Ward' in the database."},
+      {"select * into IX_Bed from Ward",
+       "-2147217900 There is already an object named 'IX_Bed' in the database."},
+      {"create index Ward on Bed(Code)",
+       "-2147217900 There is already an object named 'Ward' in the database."},
+      {"create table sqlite_new (x int)",
+       "-2147217900 The embedded database does not know 'sqlite_new' (at character 14)."},
       {"create table T (x int,X int)",
        "-2147217900 Column names in each table must be unique. Column name 'X' in table 'T' is specified "
        "more than once."},

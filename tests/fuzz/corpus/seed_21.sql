@@ -1,0 +1,1 @@
+create index Enroll_Master on School_Master(SC_Name)

@@ -1,0 +1,1 @@
+select SC_ID into sqlite_b from School_Master
