@@ -63,7 +63,7 @@ ByHand::ByHand(const char* file) {
   Check(sqlite3_open((LargeFolder() / file).c_str(), &database_), database_);
   for (const char* setting : {"PRAGMA journal_mode=PERSIST", "PRAGMA journal_size_limit=4000000",
                               "PRAGMA synchronous=FULL", "PRAGMA mmap_size=0", "PRAGMA temp_store=MEMORY",
-                              "PRAGMA cache_size=-16000", "PRAGMA cell_size_check=ON"}) {
+                              "PRAGMA cache_size=-64000", "PRAGMA cell_size_check=ON"}) {
     Check(sqlite3_exec(database_, setting, nullptr, nullptr, nullptr), database_);
   }
 }

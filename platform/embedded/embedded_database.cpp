@@ -69,7 +69,7 @@ void SetUp(SQLite::Database& database, bool is_only_read) {
   database.exec("PRAGMA synchronous=FULL");
   database.exec("PRAGMA mmap_size=0");
   database.exec("PRAGMA temp_store=MEMORY");
-  database.exec("PRAGMA cache_size=-16000");
+  database.exec("PRAGMA cache_size=-64000");
   database.exec("PRAGMA cell_size_check=ON");
 }
 

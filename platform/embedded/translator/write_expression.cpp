@@ -237,8 +237,12 @@ void SqlWriter::Write(const Like& like) {
     write("(", "=", ")");
     return;
   }
-  write("(", ">=like_from(", ")");
-  write(" AND ", "<like_to(", ")");
+  // One term as like is one: the planner takes every further term for another filter, and would look at the
+  // likes of a statement before the joins that leave more rows out.
+  write("(", " BETWEEN like_from(", ")");
+  text_ += " AND like_to(";
+  WriteExpression(*like.pattern);
+  text_ += ')';
   if (like.shape == PatternShape::kPrefixed) write(" AND like_text(", ",", ")");
   text_ += ')';
 }

@@ -63,7 +63,9 @@ Family MakeFamily(Random& random, bool boy) {
 }
 
 std::string PersonName(Random& random, bool man) {
-  return man ? Join(random.Pick(kMen), random.Pick(kSurnames)) : Join(random.Pick(kWomen), "DEVI");
+  if (!man) return Join(random.Pick(kWomen), "DEVI");
+  const std::string_view surname = random.Pick(kSurnames);
+  return Join(random.Pick(kMen), surname);
 }
 
 std::string MobileNumber(Random& random) {
@@ -74,7 +76,8 @@ std::string MobileNumber(Random& random) {
 
 std::string Villages::Next() {
   for (int tries = 0;; ++tries) {
-    std::string name = std::string(random_.Pick(kVillageHeads)) + std::string(random_.Pick(kVillageTails));
+    const std::string_view tail = random_.Pick(kVillageTails);
+    std::string name = std::string(random_.Pick(kVillageHeads)) + std::string(tail);
     if (tries > 20) name += " " + std::to_string(random_.Between(2, 99));
     if (given_.insert(name).second) return name;
   }

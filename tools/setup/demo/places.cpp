@@ -117,8 +117,9 @@ void MakeSchools(Places& places, const DemoScale& scale, Villages& villages, Ran
     school.sankul = places.centers[school.center].sankul;
     school.block = places.sankuls[school.sankul].parent;
     const bool first_of_block = i % of_center == 0 && school.center < places.blocks.size();
-    school.name = first_of_block ? places.blocks[school.block].name + " PRIMARY SCHOOL"
-                                 : villages.Next() + std::string(random.Pick(kSchoolKinds));
+    const std::string_view kind = first_of_block ? " PRIMARY SCHOOL" : random.Pick(kSchoolKinds);
+    school.name = first_of_block ? places.blocks[school.block].name : villages.Next();
+    school.name += kind;
     school.location = LocationOf(school.center, places, i);
     switch (school.location) {
       case Location::kAnganwadi:
