@@ -22,7 +22,6 @@ constexpr std::array<std::uint16_t, 95> kWidths = {
 /// A letter that the table does not hold is taken for a wide one.
 constexpr int kOtherWidth = 722;
 constexpr double kBoldFactor = 1.08;
-constexpr double kLineFactor = 1.25;
 
 /// What a column's unit of one character is in points: the digit of the sheet's own font, 10 points of Times.
 constexpr double kPointsPerCharacter = 5;
@@ -73,8 +72,8 @@ void FitRowHeights(Workbook& workbook, const CellRange& range) {
       const std::string_view text = workbook.Text(row, column);
       if (text.empty()) continue;
       const CellStyle& style = workbook.Style(row, column);
-      highest = std::max(highest,
-                         LinesIn(text, style, workbook.ColumnWidth(column)) * style.font.size * kLineFactor);
+      highest = std::max(highest, LinesIn(text, style, workbook.ColumnWidth(column)) * style.font.size *
+                                      Workbook::kLineHeight);
     }
     workbook.SetRowHeight(row, highest);
   }

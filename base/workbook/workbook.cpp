@@ -92,7 +92,17 @@ void Workbook::SetColumnWidth(int column, int width) {
 }
 
 double Workbook::RowHeight(int row) const {
-  return ValueOr(row_heights_, row, kDefaultRowHeight);
+  const std::size_t place = Place(row);
+  return ValueOr(row_heights_, row, place < rows_.size() ? FontHeight(rows_[place]) : kDefaultRowHeight);
+}
+
+std::map<int, double> Workbook::OtherHeights() const {
+  std::map<int, double> heights = row_heights_;
+  for (std::size_t place = 0; place < rows_.size(); ++place) {
+    const double height = FontHeight(rows_[place]);
+    if (height > kDefaultRowHeight) heights.try_emplace(static_cast<int>(place) + 1, height);
+  }
+  return heights;
 }
 
 void Workbook::SetRowHeight(int row, double height) {
@@ -120,6 +130,12 @@ Workbook::Cell& Workbook::At(int row, int column) {
   const std::size_t column_place = Place(column);
   if (column_place >= cells.size()) cells.resize(column_place + 1);
   return cells[column_place];
+}
+
+double Workbook::FontHeight(const Row& row) const {
+  double highest = kDefaultRowHeight;
+  for (const Cell& cell : row) highest = std::max(highest, styles_[cell.style].font.size * kLineHeight);
+  return highest;
 }
 
 StyleId Workbook::IdOf(const CellStyle& style) {

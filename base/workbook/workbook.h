@@ -52,6 +52,8 @@ class Workbook {
   static constexpr int kDefaultColumnWidth = 9 * 256;
   /// Points.
   static constexpr double kDefaultRowHeight = 13.5;
+  /// The height of a line, in sizes of its font.
+  static constexpr double kLineHeight = 1.25;
 
   Workbook();
 
@@ -85,9 +87,11 @@ class Workbook {
   /// The columns that were given a width.
   const std::map<int, int>& column_widths() const { return column_widths_; }
 
-  /// Points.
+  /// Points. A row that was given no height has room for its largest font.
   double RowHeight(int row) const;
   void SetRowHeight(int row, double height);
+  /// The rows that are not as high as an empty one, and their heights.
+  std::map<int, double> OtherHeights() const;
   /// The rows that were given a height.
   const std::map<int, double>& row_heights() const { return row_heights_; }
 
@@ -113,6 +117,7 @@ class Workbook {
   const Cell* Find(int row, int column) const;
   Cell& At(int row, int column);
   StyleId IdOf(const CellStyle& style);
+  double FontHeight(const Row& row) const;
 
   std::uint64_t revision_ = 0;
   std::string sheet_name_ = "Sheet1";

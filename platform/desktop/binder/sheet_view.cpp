@@ -105,7 +105,7 @@ void SheetView::SetSizes() {
     const QSignalBlocker quiet_rows(numbers);
     const QSignalBlocker quiet_columns(letters);
     numbers.setDefaultSectionSize(Rounded(RowPixels(Workbook::kDefaultRowHeight) * Unit()));
-    for (const auto& [row, height] : workbook.row_heights()) {
+    for (const auto& [row, height] : workbook.OtherHeights()) {
       if (row <= sheet_->rowCount()) numbers.resizeSection(row - 1, Rounded(RowPixels(height) * Unit()));
     }
     for (int column = 1; column <= sheet_->columnCount(); ++column)
