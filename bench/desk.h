@@ -8,7 +8,10 @@
 #include <vector>
 
 #include "app/forms.h"
+#include "base/controls/buttons.h"
 #include "base/controls/combo_box.h"
+#include "base/controls/dates.h"
+#include "base/controls/tabs.h"
 #include "bench/large_database.h"
 #include "core/startup/program.h"
 #include "tests/unit/base/controls/test_form.h"
@@ -34,20 +37,39 @@ class Desk {
 
   void Pick(std::string_view list, std::string_view entry) {
     auto& combo = Find<ComboBox>(list);
-    program_.Perform([&] { combo.SetListIndex(*combo.items().IndexOf(entry)); });
+    program_.Perform([&] { combo.SetListIndex(combo.items().IndexOf(entry).value()); });
     RefuseMessages();
+  }
+
+  void SelectTab(int tab) {
+    program_.Perform([&] { Find<TabStrip>("TabStrip1").Select(tab); });
+  }
+
+  void SwitchOn(std::string_view option) {
+    program_.Perform([&] { Find<OptionButton>(option).SetOn(true); });
+  }
+
+  void SetPeriod(Date from, Date to) {
+    Find<DatePicker>("DTPicker1").SetValue(from);
+    Find<DatePicker>("DTPicker2").SetValue(to);
   }
 
   /// Clicks; the one box that may come up reads so.
   void Click(std::string_view name, std::string_view message = {}) {
     program_.Perform([&] { form().Find(name)->UserClick(); });
-    if (!message.empty() && machine_.messages == std::vector<std::string>{std::string(message)})
-      machine_.messages.clear();
-    RefuseMessages();
+    Accept(message);
+  }
+
+  /// Presses a button that a person may not see.
+  void Press(std::string_view name, std::string_view message = {}) {
+    program_.Perform([&] { Find<Button>(name).Press(); });
+    Accept(message);
   }
 
   /// The screening statements that the program has sent since it was last asked.
   std::vector<std::string> TakeStatements() { return std::exchange(source_.statements, {}); }
+  /// The same of the hospital records.
+  std::vector<std::string> TakeHospitalStatements() { return std::exchange(source_.hospital_statements, {}); }
 
  private:
   class LargeSource : public DataSources {
@@ -55,11 +77,13 @@ class Desk {
     explicit LargeSource(int children) : children_(children) {}
 
     std::unique_ptr<Session> Connect(std::string_view connection) override {
-      if (connection.find("ward") != std::string_view::npos) return OpenLargeHospital(children_);
+      if (connection.find("ward") != std::string_view::npos)
+        return std::make_unique<ListenedSession>(OpenLargeHospital(children_), hospital_statements);
       return std::make_unique<ListenedSession>(OpenLarge(children_), statements);
     }
 
     std::vector<std::string> statements;
+    std::vector<std::string> hospital_statements;
 
    private:
     int children_;
@@ -79,6 +103,12 @@ class Desk {
     std::unique_ptr<Session> session_;
     std::vector<std::string>& statements_;
   };
+
+  void Accept(std::string_view message) {
+    if (!message.empty() && machine_.messages == std::vector<std::string>{std::string(message)})
+      machine_.messages.clear();
+    RefuseMessages();
+  }
 
   /// A benchmark whose form complains measures nothing.
   void RefuseMessages() {

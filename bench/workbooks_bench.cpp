@@ -7,13 +7,11 @@
 #include <memory>
 
 #include <benchmark/benchmark.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <xlsxwriter.h>
 
 #include "bench/children_list.h"
 #include "bench/median.h"
+#include "bench/peak_memory.h"
 #include "platform/office/office_files.h"
 
 namespace ovindra::bench {
@@ -39,21 +37,6 @@ const fs::path& Folder() {
     return fs::path(BENCH_FOLDER);
   }();
   return folder;
-}
-
-/// The memory that the work takes at its highest, with the workbook it is about, in MiB: that of a process of
-/// its own.
-template <typename Act>
-double PeakMemory(Act act) {
-  const pid_t child = fork();
-  if (child == 0) {
-    act();
-    _exit(0);
-  }
-  int status = 0;
-  rusage usage{};
-  wait4(child, &status, 0, &usage);
-  return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
 void Report(benchmark::State& state, const std::vector<double>& ours, const std::vector<double>& others) {
