@@ -6,6 +6,7 @@
 
 #include "app/data_sources.h"
 #include "app/forms.h"
+#include "app/freed_memory.h"
 #include "app/office_services.h"
 #include "platform/desktop/desktop.h"
 #include "platform/desktop/theme/theme.h"
@@ -52,6 +53,7 @@ CommandLine ReadCommandLine(const QApplication& application) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  KeepFreedMemory();
   QApplication application(argc, argv);
   QApplication::setApplicationName("ovindra-desk");
   QApplication::setApplicationVersion(OVINDRA_VERSION);

@@ -123,7 +123,7 @@ void frmdefected::WriteProgrammeList() {
   const std::string location = LocationCode(Combo1);
   FillGrid(database(), ProgrammeChildren(location),
            {"Enroll_Date", "Screened_Date", "Record_date", "Enroll_No", "Child_Name", "FName",
-            "age",         "Gender",        "Class",       "",          "",           "Center_Name",
+            "age",         "Gender",        "Class",       kEmptyCell,  kEmptyCell,   "Center_Name",
             "SC_Name",     "Block_Name",    "CodedBy",     "RE_Sph",    "RE_Cyl",     "RE_Axis",
             "RE_VA",       "LE_Sph",        "LE_Cyl",      "LE_Axis",   "LE_VA",      "Eye_Condition"},
            MSFlexGrid4);

@@ -97,11 +97,14 @@ SqlText CategoriesOfChildren(Examiner examiner, const Period& period, const std:
 }
 
 void JoinTreatments(Grid& grid, const GridIndex& children, int column, Recordset& treatments) {
+  if (treatments.Eof()) return;
+  const std::size_t description_ordinal = treatments.Ordinal("Description");
+  const std::size_t enroll_no_ordinal = treatments.Ordinal("Enroll_No");
   for (; !treatments.Eof(); treatments.MoveNext()) {
-    const std::string description = Trim(treatments["Description"]);
+    const std::string description = Trim(treatments.At(description_ordinal));
     std::string first = description;
     if (description == kSpectacles) first += "/" + Trim(treatments["remark"]);
-    for (const int row : children.RowsOf(Trim(treatments["Enroll_No"])))
+    for (const int row : children.RowsOf(Trim(treatments.At(enroll_no_ordinal))))
       JoinText(grid, row, column, grid.Cell(row, column).empty() ? first : description);
   }
 }

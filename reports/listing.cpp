@@ -27,7 +27,7 @@ int WriteRecords(Sheet& sheet, int first_row, Recordset& records, std::span<cons
     ++row;
     int column = 1;
     sheet.SetCellText(row, column, row - first_row + 1);
-    for (const std::size_t ordinal : ordinals) sheet.SetCellText(row, ++column, Trim(records.At(ordinal)));
+    for (const std::size_t ordinal : ordinals) sheet.SetCellText(row, ++column, records.At(ordinal));
   }
   return row;
 }
@@ -56,17 +56,6 @@ void StyleList(Sheet& sheet, int heading_row, int last_row, int columns) {
   sheet.FitColumns(heading_row, 1, last_row, columns);
 }
 
-void StageRecords(Grid& grid, Recordset& records, std::initializer_list<std::string_view> fields) {
-  grid.SetRows(grid.fixed_rows());
-  for (; !records.Eof(); records.MoveNext()) {
-    Grid::Row cells;
-    cells.reserve(fields.size());
-    for (const std::string_view field : fields)
-      cells.push_back(field == kEmptyCell ? std::string() : Trim(records[field]));
-    grid.AddRow(std::move(cells));
-  }
-}
-
 StagingGrid::StagingGrid(Container& container, std::string_view name,
                          std::initializer_list<std::string_view> headings)
     : Grid(container, name, headings) {
@@ -93,16 +82,24 @@ SheetIndex::SheetIndex(const Sheet& sheet, int first_row, int last_row, int colu
 
 bool JoinText(Grid& grid, int row, int column, std::string_view text) {
   const std::string& before = grid.Cell(row, column);
-  const bool is_first = before.empty();
-  grid.SetCell(row, column, is_first ? std::string(text) : before + "," + std::string(text));
-  return is_first;
+  if (before.empty()) {
+    grid.SetCell(row, column, text);
+    return true;
+  }
+  std::string joined = before;
+  joined += ',';
+  grid.SetCell(row, column, joined += text);
+  return false;
 }
 
 void JoinRecords(Grid& grid, const GridIndex& index, int column, Recordset& records,
                  std::string_view key_field, std::string_view value_field) {
+  if (records.Eof()) return;
+  const std::size_t value_ordinal = records.Ordinal(value_field);
+  const std::size_t key_ordinal = records.Ordinal(key_field);
   for (; !records.Eof(); records.MoveNext()) {
-    const std::string value = Trim(records[value_field]);
-    for (const int row : index.RowsOf(Trim(records[key_field]))) JoinText(grid, row, column, value);
+    const std::string value = Trim(records.At(value_ordinal));
+    for (const int row : index.RowsOf(Trim(records.At(key_ordinal)))) JoinText(grid, row, column, value);
   }
 }
 

@@ -36,12 +36,6 @@ void StyleBlock(Sheet& sheet, const CellRange& cells, const CellFont& font);
 /// A list as it comes out: the heading row and the data rows below it, their columns fitted.
 void StyleList(Sheet& sheet, int heading_row, int last_row, int columns);
 
-/// In place of a field of StageRecords: the cell stays empty.
-inline constexpr std::string_view kEmptyCell{};
-
-/// Cuts the staging grid down to its header and adds a row for each record from the fields, trimmed.
-void StageRecords(Grid& grid, Recordset& records, std::initializer_list<std::string_view> fields);
-
 /// A table in memory in which a builder gathers its rows; a person never sees it.
 class StagingGrid : public Grid {
  public:

@@ -164,7 +164,7 @@ void frmreferallist::BuildList() {
   const bool of_spectacles = treatment == kSpectacles;
   const ReferralList& list = ListOf(of_spectacles, coverage.area);
   Grid& grid = of_spectacles ? MSFlexGrid2 : MSFlexGrid1;
-  StageRecords(grid, children, list.fields);
+  FillGrid(children, {list.fields.begin(), list.fields.size()}, grid);
   JoinDiagnoses(coverage, grid, list.diagnosis_column);
   Sheet report = sheet();
   WriteHeadings(report, kHeadingRow, list.headings);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/text/blanks.h"
 #include "base/text/utf8.h"
 #include "base/workbook/text_fit.h"
 #include "core/text/text.h"
@@ -49,6 +50,14 @@ void Sheet::SetCellText(int row, int col, std::string_view text) {
 
 void Sheet::SetCellText(int row, int col, double number) {
   SetCellText(row, col, NumberText(number));
+}
+
+void Sheet::SetCellText(int row, int col, const Field& field) {
+  if (field.kind() == FieldKind::kText) {
+    SetCellText(row, col, Trim(field.RawText()));
+  } else {
+    SetCellText(row, col, Trim(field));
+  }
 }
 
 void Sheet::SelectCells(int row1, int col1, int row2, int col2) {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/controls/report_sheet.h"
+#include "base/database/recordset.h"
 
 namespace ovindra {
 
@@ -30,6 +31,8 @@ class Sheet {
   void SetCellText(int row, int col, std::string_view text);
   /// A number is written as its text.
   void SetCellText(int row, int col, double number);
+  /// A field is written as its text, trimmed; NULL as none.
+  void SetCellText(int row, int col, const Field& field);
   std::string_view GetCellText(int row, int col) const { return control_.workbook().Text(row, col); }
 
   /// The cells that the next formatting calls apply to.

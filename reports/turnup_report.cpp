@@ -1,5 +1,6 @@
 #include "reports/turnup_report.h"
 
+#include "core/entry/lists.h"
 #include "core/entry/lookups.h"
 #include "core/entry/places.h"
 #include "reports/listing.h"
@@ -110,10 +111,10 @@ void frmturnup::GetRpt() {
   const Period period = ReadPeriod();
   const std::string location = CodeOf(database(), lookup::kLocation, Combo1);
   const TurnupCoverage coverage{period, location, GetBlockCode()};
-  Recordset children = database().Execute(Children(coverage));
-  StageRecords(MSFlexGrid1, children,
-               {"Enroll_No", "Child_Name", "FName", "age", "Gender", "Class", kEmptyCell, "Sc_Name",
-                "Sankul_Name", "Mr_No", kEmptyCell});
+  FillGrid(database(), Children(coverage),
+           {"Enroll_No", "Child_Name", "FName", "age", "Gender", "Class", kEmptyCell, "Sc_Name",
+            "Sankul_Name", "Mr_No", kEmptyCell},
+           MSFlexGrid1);
   Recordset diagnoses = database().Execute(Diagnoses(coverage));
   JoinRecords(MSFlexGrid1, GridIndex(MSFlexGrid1, kEnrollNo), kDiagnosis, diagnoses, "Enroll_No",
               "Diagnosis_Name");

@@ -61,13 +61,16 @@ std::string_view WithoutLastCharacter(std::string_view text) {
   return count == 0 ? text : FirstCharacters(text, count - 1);
 }
 
+char32_t TakeCharacter(std::string_view& text) {
+  const std::size_t length = LengthOfFirst(text);
+  const char32_t character = Decode(text.substr(0, length));
+  text.remove_prefix(length);
+  return character;
+}
+
 std::u32string Characters(std::string_view text) {
   std::u32string characters;
-  while (!text.empty()) {
-    const std::size_t length = LengthOfFirst(text);
-    characters += Decode(text.substr(0, length));
-    text.remove_prefix(length);
-  }
+  while (!text.empty()) characters += TakeCharacter(text);
   return characters;
 }
 

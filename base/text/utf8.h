@@ -17,6 +17,9 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count);
 /// The text without its last character; an empty text stays empty.
 std::string_view WithoutLastCharacter(std::string_view text);
 
+/// Takes the first character off the text, which must hold one. A byte that is no UTF-8 is U+FFFD.
+char32_t TakeCharacter(std::string_view& text);
+
 /// The characters of the text one by one. A byte that is no UTF-8 comes out as U+FFFD.
 std::u32string Characters(std::string_view text);
 

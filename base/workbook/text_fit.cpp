@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "base/text/utf8.h"
 
@@ -10,6 +11,7 @@ namespace ovindra {
 namespace {
 
 constexpr char32_t kFirstMeasured = U' ';
+constexpr unsigned char kFirstBeyondAscii = 0x80;
 
 /// Times Roman from the blank to the tilde, in thousandths of the font's size.
 constexpr std::array<std::uint16_t, 95> kWidths = {
@@ -35,6 +37,16 @@ int WidthOf(char32_t character) {
   return place < kWidths.size() ? kWidths[place] : kOtherWidth;
 }
 
+double InPoints(int thousandths, const CellFont& font) {
+  return static_cast<double>(thousandths) / 1000 * font.size * (font.bold ? kBoldFactor : 1);
+}
+
+/// Not less than the text is wide, from its length alone.
+double WidthAtMost(std::string_view text, const CellFont& font) {
+  static const int kWidest = *std::max_element(kWidths.begin(), kWidths.end());
+  return InPoints(kWidest * static_cast<int>(text.size()), font);
+}
+
 int LinesIn(std::string_view text, const CellStyle& style, int column_width) {
   if (!style.alignment.wrapped) return 1;
   const double room =
@@ -45,22 +57,38 @@ int LinesIn(std::string_view text, const CellStyle& style, int column_width) {
 }  // namespace
 
 double TextWidth(std::string_view text, const CellFont& font) {
-  double thousandths = 0;
-  for (const char32_t character : Characters(text)) thousandths += WidthOf(character);
-  return thousandths / 1000 * font.size * (font.bold ? kBoldFactor : 1);
+  int thousandths = 0;
+  while (!text.empty()) {
+    // Most texts are of the letters that are one byte each.
+    const auto byte = static_cast<unsigned char>(text.front());
+    if (byte < kFirstBeyondAscii) {
+      thousandths += WidthOf(byte);
+      text.remove_prefix(1);
+    } else {
+      thousandths += WidthOf(TakeCharacter(text));
+    }
+  }
+  return InPoints(thousandths, font);
 }
 
 void FitColumnWidths(Workbook& workbook, const CellRange& range) {
   const int last_row = std::min(range.last_row, workbook.last_row());
-  for (int column = range.first_column; column <= range.last_column; ++column) {
-    double widest = 0;
-    for (int row = range.first_row; row <= last_row; ++row) {
+  if (range.last_column < range.first_column) return;
+  std::vector<double> widest(static_cast<std::size_t>(range.last_column - range.first_column) + 1);
+  for (int row = range.first_row; row <= last_row; ++row) {
+    for (int column = range.first_column; column <= range.last_column; ++column) {
       const std::string_view text = workbook.Text(row, column);
-      if (!text.empty()) widest = std::max(widest, TextWidth(text, workbook.Style(row, column).font));
+      if (text.empty()) continue;
+      const CellFont& font = workbook.Style(row, column).font;
+      double& width = widest[static_cast<std::size_t>(column - range.first_column)];
+      if (WidthAtMost(text, font) > width) width = std::max(width, TextWidth(text, font));
     }
-    if (widest == 0) continue;
-    workbook.SetColumnWidth(column, static_cast<int>(std::lround((widest / kPointsPerCharacter + kPadding) *
-                                                                 kUnitsPerCharacter)));
+  }
+  for (int column = range.first_column; column <= range.last_column; ++column) {
+    const double width = widest[static_cast<std::size_t>(column - range.first_column)];
+    if (width == 0) continue;
+    workbook.SetColumnWidth(
+        column, static_cast<int>(std::lround((width / kPointsPerCharacter + kPadding) * kUnitsPerCharacter)));
   }
 }
 

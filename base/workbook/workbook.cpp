@@ -52,17 +52,24 @@ void Workbook::Restyle(const CellRange& range, const std::function<void(CellStyl
   if (range.last_column < range.first_column) return;
   ++revision_;
   std::map<StyleId, StyleId> changed;
+  const auto changed_from = [&](StyleId id) {
+    const auto [known, is_new] = changed.try_emplace(id, id);
+    if (is_new) {
+      CellStyle style = styles_[id];
+      change(style);
+      known->second = IdOf(style);
+    }
+    return known->second;
+  };
+  // Most cells look like the one before them.
+  std::optional<std::pair<StyleId, StyleId>> last;
   for (int row = range.first_row; row <= range.last_row; ++row) {
     At(row, range.last_column);
-    for (int column = range.first_column; column <= range.last_column; ++column) {
-      StyleId& id = At(row, column).style;
-      const auto [known, is_new] = changed.try_emplace(id, id);
-      if (is_new) {
-        CellStyle style = styles_[id];
-        change(style);
-        known->second = IdOf(style);
-      }
-      id = known->second;
+    Row& cells = rows_[Place(row)];
+    for (std::size_t place = Place(range.first_column); place <= Place(range.last_column); ++place) {
+      StyleId& id = cells[place].style;
+      if (!last || last->first != id) last = {id, changed_from(id)};
+      id = last->second;
     }
   }
 }
@@ -128,7 +135,11 @@ Workbook::Cell& Workbook::At(int row, int column) {
   if (row_place >= rows_.size()) rows_.resize(row_place + 1);
   Row& cells = rows_[row_place];
   const std::size_t column_place = Place(column);
-  if (column_place >= cells.size()) cells.resize(column_place + 1);
+  if (column_place >= cells.size()) {
+    // A row is mostly as long as the one above it, and is written from its first cell on.
+    if (cells.capacity() == 0 && row_place > 0) cells.reserve(rows_[row_place - 1].size());
+    cells.resize(column_place + 1);
+  }
   return cells[column_place];
 }
 

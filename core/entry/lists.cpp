@@ -50,11 +50,15 @@ void FillGrid(Connection& connection, const SqlText& statement,
 void FillGrid(Connection& connection, const SqlText& statement, std::span<const std::string_view> fields,
               Grid& grid) {
   Recordset rows = connection.Execute(statement);
+  FillGrid(rows, fields, grid);
+}
+
+void FillGrid(Recordset& rows, std::span<const std::string_view> fields, Grid& grid) {
   grid.SetRows(grid.fixed_rows());
   if (rows.Eof()) return;
   std::vector<std::optional<std::size_t>> ordinals;
   for (std::string_view field : fields)
-    ordinals.push_back(field.empty() ? std::nullopt : std::optional(rows.Ordinal(field)));
+    ordinals.push_back(field == kEmptyCell ? std::nullopt : std::optional(rows.Ordinal(field)));
   for (; !rows.Eof(); rows.MoveNext()) {
     Grid::Row cells;
     cells.reserve(ordinals.size());

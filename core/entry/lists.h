@@ -23,11 +23,16 @@ void FillListWithData(Connection& connection, const SqlText& statement, std::str
 void FillListWithData(Connection& connection, const SqlText& statement, std::string_view field,
                       std::string_view data_field, ComboBox& list);
 
+/// In place of a field of FillGrid: the cell stays empty.
+inline constexpr std::string_view kEmptyCell{};
+
 /// Cuts the grid down to its header and adds a row for each of the statement's rows, from the given fields,
-/// trimmed. A field without a name leaves its cell empty.
+/// trimmed.
 void FillGrid(Connection& connection, const SqlText& statement,
               std::initializer_list<std::string_view> fields, Grid& grid);
 void FillGrid(Connection& connection, const SqlText& statement, std::span<const std::string_view> fields,
               Grid& grid);
+/// The same from a statement's rows.
+void FillGrid(Recordset& rows, std::span<const std::string_view> fields, Grid& grid);
 
 }  // namespace ovindra

@@ -265,7 +265,7 @@ Recordset Engine::ReadRows(PreparedStatement& prepared) {
     }
   }
   // A result that is one of its kind shall not make each one after it take as much.
-  constexpr std::size_t kMostRows = 2000;
+  constexpr std::size_t kMostRows = 8000;
   constexpr std::size_t kMostText = 1 << 20;
   prepared.expected_rows = std::min(rows.row_count(), kMostRows);
   prepared.expected_text = std::min(rows.text_bytes(), kMostText);
