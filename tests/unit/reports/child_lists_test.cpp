@@ -1,12 +1,10 @@
 // The lists of children on the demonstration programme beside the same lists made child by child.
 #include <algorithm>
 #include <set>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
-#include "tests/unit/reports/demo_desk.h"
-#include "tools/setup/demo/demo.h"
+#include "tests/unit/reports/programme_tables.h"
 
 namespace ovindra {
 namespace {
@@ -19,107 +17,6 @@ constexpr Date kTo{std::chrono::year(2016), month(3), std::chrono::day(31)};
 
 bool IsInPeriod(const std::string& day) {
   return day >= "2015-04-01" && day <= "2016-03-31";
-}
-
-/// Rows of a table by the value of a column.
-using Keyed = std::multimap<std::string, TableRow>;
-
-Keyed KeyedBy(const char* column, const TableRows& rows) {
-  Keyed keyed;
-  for (const TableRow& row : rows) keyed.emplace(row.at(column), row);
-  return keyed;
-}
-
-std::vector<TableRow> Of(const Keyed& keyed, const std::string& key) {
-  std::vector<TableRow> rows;
-  const auto [begin, end] = keyed.equal_range(key);
-  for (auto row = begin; row != end; ++row) rows.push_back(row->second);
-  return rows;
-}
-
-std::string WithCommas(const std::vector<std::string>& names) {
-  std::string text;
-  for (const std::string& name : names) text += (text.empty() ? "" : ",") + name;
-  return text;
-}
-
-/// The pieces between the commas in the order of their texts. The statements ask for none, and a name of the
-/// hospital's may hold a comma itself.
-std::string Sorted(const std::string& joined) {
-  std::vector<std::string> pieces;
-  std::istringstream text(joined);
-  for (std::string piece; std::getline(text, piece, ',');) pieces.push_back(piece);
-  std::sort(pieces.begin(), pieces.end());
-  return WithCommas(pieces);
-}
-
-std::string Joined(const std::vector<std::string>& names) {
-  return Sorted(WithCommas(names));
-}
-
-/// The lines in an order of their own, the joined names of those columns too.
-std::multiset<SheetLine> Normal(std::vector<SheetLine> lines, std::initializer_list<std::size_t> joined) {
-  for (SheetLine& line : lines) {
-    for (const std::size_t column : joined) line[column] = Sorted(line[column]);
-  }
-  return {lines.begin(), lines.end()};
-}
-
-/// The examinations of one camp.
-struct Examinations {
-  explicit Examinations(const std::string& suffix)
-      : records(DemoDesk::ScreeningTable("Child_Record" + suffix)),
-        treatments(KeyedBy("Child_RecordNo", DemoDesk::ScreeningTable("Child_Treatment" + suffix))),
-        diagnoses(KeyedBy("Child_RecordNo", DemoDesk::ScreeningTable("Child_Diagnosis" + suffix))) {}
-
-  TableRows records;
-  Keyed treatments;
-  Keyed diagnoses;
-};
-
-struct Programme {
-  Keyed children = KeyedBy("Enroll_No", DemoDesk::ScreeningTable("Enroll_Master"));
-  Keyed schools = KeyedBy("SC_ID", DemoDesk::ScreeningTable("School_Master"));
-  Keyed sankuls = KeyedBy("Sankul_ID", DemoDesk::ScreeningTable("Sankul_Master"));
-  Keyed registers = KeyedBy("School_ID", DemoDesk::ScreeningTable("Screened_School"));
-  Keyed diagnosis_names = KeyedBy("Diagnosis_Code", DemoDesk::ScreeningTable("Diagnosis_Master"));
-  TableRows blocks = DemoDesk::ScreeningTable("Block_Master");
-  TableRows states = DemoDesk::ScreeningTable("State_Master");
-  TableRows locations = DemoDesk::ScreeningTable("Location_Master");
-  Examinations assistants{""};
-  Examinations surgeons{"OS"};
-
-  const TableRow& Child(const TableRow& record) const {
-    return children.find(record.at("Enroll_No"))->second;
-  }
-
-  std::vector<std::string> Diagnoses(const Examinations& examinations, const std::string& record) const {
-    std::vector<std::string> names;
-    for (const TableRow& row : Of(examinations.diagnoses, record))
-      names.push_back(diagnosis_names.find(row.at("Diagnosis_Code"))->second.at("Diagnosis_Name"));
-    return names;
-  }
-
-  /// The sankul and the school of a child, once for each register row of the school.
-  std::set<std::pair<std::string, std::string>> Schools(const TableRow& child) const {
-    std::set<std::pair<std::string, std::string>> found;
-    for (const TableRow& school : Of(schools, child.at("School_ID"))) {
-      for (const TableRow& row : Of(registers, child.at("School_ID"))) {
-        for (const TableRow& sankul : Of(sankuls, row.at("Sankul_ID")))
-          found.emplace(sankul.at("Sankul_Name"), school.at("SC_Name"));
-      }
-    }
-    return found;
-  }
-};
-
-const Programme& Facts() {
-  static const Programme programme;
-  return programme;
-}
-
-std::string RemarkText(const std::string& remark) {
-  return remark == "F" ? "FREE" : remark == "P" ? "PAID" : "";
 }
 
 /// Which children a list of a camp is about.
@@ -154,7 +51,7 @@ std::multiset<SheetLine> ReferredLines(const Choice& choice, Shape shape) {
   std::map<std::string, std::vector<std::string>> diagnoses;
   for (const TableRow& record : choice.examinations.records) {
     if (!IsInPeriod(record.at("Record_Date"))) continue;
-    for (const std::string& name : Facts().Diagnoses(choice.examinations, record.at("Child_RecordNo")))
+    for (const std::string& name : Facts().Diagnoses(choice.examinations, record))
       diagnoses[record.at("Enroll_No")].push_back(name);
   }
   std::set<SheetLine> lines;
@@ -167,7 +64,7 @@ std::multiset<SheetLine> ReferredLines(const Choice& choice, Shape shape) {
       lines.insert(line);
       return;
     }
-    for (const auto& [sankul, school] : Facts().Schools(child)) {
+    for (const auto& [sankul, school] : Facts().SankulsAndSchools(child)) {
       SheetLine with_school = line;
       with_school.insert(with_school.end(), {sankul, school});
       lines.insert(with_school);
@@ -178,7 +75,7 @@ std::multiset<SheetLine> ReferredLines(const Choice& choice, Shape shape) {
 
 /// Gets the list for every location of the programme and compares; gives the number of lines.
 template <typename Expected>
-std::size_t CompareForEachLocation(DemoDesk& desk, int columns, std::initializer_list<std::size_t> joined,
+std::size_t CompareForEachLocation(ReportDesk& desk, int columns, std::initializer_list<std::size_t> joined,
                                    const char* location_combo, Expected expected) {
   std::size_t total = 0;
   for (const TableRow& location : Facts().locations) {
@@ -193,22 +90,31 @@ std::size_t CompareForEachLocation(DemoDesk& desk, int columns, std::initializer
   return total;
 }
 
-TEST(ChildLists, ReferredOfEachBlock) {
-  DemoDesk desk("frmreferallist");
+/// The same for every block too; some of the lists must hold a line.
+template <typename Expected>
+void CompareForEachBlock(ReportDesk& desk, int columns, std::initializer_list<std::size_t> joined,
+                         const char* block_combo, const char* location_combo, Expected expected) {
   desk.SetPeriod(kFrom, kTo);
   std::size_t total = 0;
   for (const TableRow& block : Facts().blocks) {
-    desk.Pick("Combo1", block.at("Block_Name"));
-    total += CompareForEachLocation(desk, 9, {5}, "Combo4", [&](const std::string& location) {
-      return ReferredLines({Facts().assistants, "Block_Code", block.at("Block_Code"), location, "3"},
-                           Shape::kWithSchool);
+    desk.Pick(block_combo, block.at("Block_Name"));
+    total += CompareForEachLocation(desk, columns, joined, location_combo, [&](const std::string& location) {
+      return expected(block.at("Block_Code"), location);
     });
   }
   EXPECT_GT(total, 0U);
 }
 
+TEST(ChildLists, ReferredOfEachBlock) {
+  ReportDesk desk("frmreferallist");
+  CompareForEachBlock(
+      desk, 9, {5}, "Combo1", "Combo4", [](const std::string& block, const std::string& location) {
+        return ReferredLines({Facts().assistants, "Block_Code", block, location, "3"}, Shape::kWithSchool);
+      });
+}
+
 TEST(ChildLists, ReferredOfAState) {
-  DemoDesk desk("frmreferallist");
+  ReportDesk desk("frmreferallist");
   desk.SetPeriod(kFrom, kTo);
   desk.SelectTab(1);
   const TableRow& state = Facts().states.front();
@@ -224,7 +130,7 @@ TEST(ChildLists, ReferredOfAState) {
                       {"Option2", Facts().surgeons, "2", "SPECTACLE PRESCRIBED"}};
   for (const auto& c : kCases) {
     SCOPED_TRACE(std::string(c.option) + " " + c.description);
-    desk.Click(c.option);
+    desk.SwitchOn(c.option);
     desk.Pick("Combo3", c.description);
     const Shape shape = std::string_view(c.treatment) == "2" ? Shape::kSpectacles : Shape::kPlain;
     const std::size_t diagnosis = shape == Shape::kSpectacles ? 6 : 5;
@@ -238,38 +144,23 @@ TEST(ChildLists, ReferredOfAState) {
 }
 
 TEST(ChildLists, SpectaclesOfEachBlock) {
-  DemoDesk desk("frmspectacle");
-  desk.SetPeriod(kFrom, kTo);
-  std::size_t total = 0;
+  ReportDesk desk("frmspectacle");
   for (const char* option : {"Option1", "Option2"}) {
-    desk.Click(option);
+    desk.SwitchOn(option);
     const Examinations& examinations =
         std::string_view(option) == "Option1" ? Facts().assistants : Facts().surgeons;
-    for (const TableRow& block : Facts().blocks) {
-      desk.Pick("Combo1", block.at("Block_Name"));
-      total += CompareForEachLocation(desk, 7, {}, "Combo4", [&](const std::string& location) {
-        std::set<SheetLine> lines;
-        ForEachTreated({examinations, "Block_Code", block.at("Block_Code"), location, "2"},
-                       [&](const TableRow& child, const TableRow& treatment) {
-                         SheetLine line = Person(child, child.at("Child_Name"));
-                         line.push_back(RemarkText(treatment.at("Remark")));
-                         lines.insert(line);
-                       });
-        return std::multiset<SheetLine>(lines.begin(), lines.end());
-      });
-    }
+    const auto spectacles = [&](const std::string& block, const std::string& location) {
+      std::set<SheetLine> lines;
+      ForEachTreated({examinations, "Block_Code", block, location, "2"},
+                     [&](const TableRow& child, const TableRow& treatment) {
+                       SheetLine line = Person(child, child.at("Child_Name"));
+                       line.push_back(RemarkText(treatment.at("Remark")));
+                       lines.insert(line);
+                     });
+      return std::multiset<SheetLine>(lines.begin(), lines.end());
+    };
+    CompareForEachBlock(desk, 7, {}, "Combo1", "Combo4", spectacles);
   }
-  EXPECT_GT(total, 0U);
-}
-
-/// The diagnoses that the hospital holds of a patient, each once.
-std::vector<std::string> HospitalDiagnoses(const std::string& mr_no) {
-  static const Keyed records = KeyedBy("mr_no", DemoDesk::HospitalTable("medical_record_dtl"));
-  static const Keyed codes = KeyedBy("icd_code", DemoDesk::HospitalTable("icd_code_master"));
-  std::set<std::string> names;
-  for (const TableRow& row : Of(records, mr_no))
-    names.insert(codes.find(row.at("icd_code"))->second.at("icd_description"));
-  return {names.begin(), names.end()};
 }
 
 std::multiset<SheetLine> TurnupLines(const std::string& block, const std::string& location) {
@@ -282,9 +173,9 @@ std::multiset<SheetLine> TurnupLines(const std::string& block, const std::string
       continue;
     for (const TableRow& row : Of(Facts().assistants.treatments, record.at("Child_RecordNo"))) {
       if (row.at("Treatment_Code") != "4") continue;
-      for (const std::string& name : Facts().Diagnoses(Facts().assistants, record.at("Child_RecordNo")))
+      for (const std::string& name : Facts().Diagnoses(Facts().assistants, record))
         diagnoses[child.at("Enroll_No")].push_back(name);
-      for (const auto& [sankul, school] : Facts().Schools(child)) {
+      for (const auto& [sankul, school] : Facts().SankulsAndSchools(child)) {
         SheetLine line = Person(child, child.at("Child_Name"));
         line.insert(line.begin(), child.at("Mr_No"));
         line.insert(line.end(), {school, sankul, child.at("Enroll_No")});
@@ -296,7 +187,7 @@ std::multiset<SheetLine> TurnupLines(const std::string& block, const std::string
   for (const auto& [mr_no, same] : of_patient) {
     std::vector<std::string> hospital;
     for (std::size_t row = 0; row < same.size(); ++row) {
-      for (const std::string& name : HospitalDiagnoses(mr_no)) hospital.push_back(name);
+      for (const std::string& name : Facts().HospitalDiagnoses(mr_no)) hospital.push_back(name);
     }
     for (SheetLine line : same) {
       line.back() = Joined(diagnoses[line.back()]);
@@ -308,20 +199,12 @@ std::multiset<SheetLine> TurnupLines(const std::string& block, const std::string
 }
 
 TEST(ChildLists, TurnedUpOfEachBlock) {
-  DemoDesk desk("frmturnup");
-  desk.SetPeriod(kFrom, kTo);
-  std::size_t total = 0;
-  for (const TableRow& block : Facts().blocks) {
-    desk.Pick("Combo2", block.at("Block_Name"));
-    total += CompareForEachLocation(desk, 11, {8, 9}, "Combo1", [&](const std::string& location) {
-      return TurnupLines(block.at("Block_Code"), location);
-    });
-  }
-  EXPECT_GT(total, 0U);
+  ReportDesk desk("frmturnup");
+  CompareForEachBlock(desk, 11, {8, 9}, "Combo2", "Combo1", TurnupLines);
 }
 
 TEST(ChildLists, MissedOfEachSchool) {
-  DemoDesk desk("Form1");
+  ReportDesk desk("Form1");
   std::set<std::string> examined;
   for (const TableRow& record : Facts().assistants.records) examined.insert(record.at("Enroll_No"));
   std::size_t total = 0;
