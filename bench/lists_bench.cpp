@@ -7,9 +7,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include "app/freed_memory.h"
 #include "base/controls/report_sheet.h"
 #include "bench/beside.h"
 #include "bench/desk.h"
+#include "bench/peak_memory.h"
 #include "bench/same_by_hand.h"
 #include "tools/setup/demo/demo.h"
 
@@ -132,11 +134,40 @@ void WholeList(benchmark::State& state, const List& list) {
   Report(state, desk, list.button, list.message);
 }
 
+/// Programmes whose list of defected children at the anganwadi centers is one of 100,000 and of 10,000.
+constexpr int kLongListChildren = 2'400'000;
+constexpr int kShortListChildren = kLongListChildren / 10;
+
+const List kDefectedOfAnganwadi{"", "frmdefected", &kTwoYears, {{kAnganwadi}}, "Command1"};
+
+/// The long list beside a tenth of it: the ratio is what ten times the list costs. The memory is the whole
+/// process after one such list.
+void LongDefectedList(benchmark::State& state) {
+  LargeFolder(kLongListChildren);
+  state.counters["peak_MiB"] = PeakMemory([] {
+    Desk desk("frmdefected", kLongListChildren);
+    Choose(desk, kDefectedOfAnganwadi);
+    desk.Press("Command1");
+  });
+  Desk desk("frmdefected", kLongListChildren);
+  Desk tenth("frmdefected", kShortListChildren);
+  for (Desk* one : {&desk, &tenth}) {
+    Choose(*one, kDefectedOfAnganwadi);
+    one->Press("Command1");
+  }
+  state.counters["rows"] = desk.Find<ReportSheet>("F1Book1").workbook().last_row();
+  state.counters["short_rows"] = tenth.Find<ReportSheet>("F1Book1").workbook().last_row();
+  RunBeside(
+      state, [&] { desk.Press("Command1"); }, [&] { tenth.Press("Command1"); });
+}
+BENCHMARK(LongDefectedList)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(10);
+
 }  // namespace
 }  // namespace ovindra::bench
 
 int main(int argc, char** argv) {
   using namespace ovindra::bench;
+  ovindra::KeepFreedMemory();
   for (const List& list : kLists) {
     benchmark::RegisterBenchmark(list.name, [&list](benchmark::State& state) { WholeList(state, list); })
         ->Unit(benchmark::kMillisecond)
