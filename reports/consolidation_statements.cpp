@@ -58,6 +58,24 @@ constexpr Fragment kAssistantsTreatedChildren =
 constexpr Fragment kAssistantsTreatments = " Child_Treatment c";
 constexpr Fragment kTreatmentJoins = " and a.Enroll_No=b.Enroll_No and b.Child_RecordNo=c.Child_RecordNo";
 
+/// What a list by blocks shows of each block: its centers, or the people trained there.
+struct BlockSelects {
+  Fragment centers;
+  Fragment trained;
+
+  Fragment For(BlockFigure figure) const { return figure == BlockFigure::kCenters ? centers : trained; }
+};
+
+constexpr BlockSelects kOfRegister{
+    "Select   a.Block_Name,count(distinct b.sc_ID) as Total",
+    "Select  distinct a.Block_Name,sum(convert(numeric,No_ofT_teacher)) as Total"};
+constexpr BlockSelects kOfAnganwadi{
+    "Select  distinct a.Block_Name,count(distinct b.AW_ID) as Total",
+    "Select  distinct a.Block_Name,sum(convert(numeric,No_of_TAww)) as Total"};
+constexpr BlockSelects kOfProgramme{
+    "Select  distinct a.Block_Name,count(distinct b.SC_ID) as Total",
+    "Select  distinct a.Block_Name,sum(convert(numeric,No_of_TTeacher)) as Total"};
+
 }  // namespace
 
 SqlText ChildCount(const Coverage& coverage, Fragment tail) {
@@ -168,25 +186,17 @@ SqlText SchoolRegisterSum(const Coverage& coverage, RegisterColumns columns) {
 }
 
 SqlText SchoolList(const Coverage& coverage, BlockFigure figure) {
-  const Fragment select =
-      figure == BlockFigure::kCenters
-          ? Fragment("Select   a.Block_Name,count(distinct b.sc_ID) as Total")
-          : Fragment("Select  distinct a.Block_Name,sum(convert(numeric,No_ofT_teacher)) as Total");
   SqlText sankul;
   SqlText block;
   if (coverage.scope == Scope::kSankul) sankul = sql(" c.Sankul_ID=", bare(coverage.scope_value), " and");
   if (coverage.scope == Scope::kBlock) block = sql(" and a.Block_code=", bare(coverage.scope_value));
-  return sql(select, " from Block_Master a,School_Master b,Screened_School c where", sankul,
+  return sql(kOfRegister.For(figure), " from Block_Master a,School_Master b,Screened_School c where", sankul,
              " c.School_ID=b.SC_ID and b.Block_Code=a.Block_Code", block,
              " and Location_ID=", quoted(coverage.location), "  group by a.Block_Name");
 }
 
 SqlText AnganwadiList(const Coverage& coverage, BlockFigure figure) {
-  const Fragment select =
-      figure == BlockFigure::kCenters
-          ? Fragment("Select  distinct a.Block_Name,count(distinct b.AW_ID) as Total")
-          : Fragment("Select  distinct a.Block_Name,sum(convert(numeric,No_of_TAww)) as Total");
-  return sql(select,
+  return sql(kOfAnganwadi.For(figure),
              " from Block_Master a,Anganwadi_Center b where b.AW_ID in(Select Center_ID from Enroll_Master"
              " where Enroll_Date between ",
              quoted(coverage.period.from), " and ", quoted(coverage.period.to), "and Enroll_No like ",
@@ -194,11 +204,7 @@ SqlText AnganwadiList(const Coverage& coverage, BlockFigure figure) {
 }
 
 SqlText ProgrammeSchoolList(const Coverage& coverage, BlockFigure figure) {
-  const Fragment select =
-      figure == BlockFigure::kCenters
-          ? Fragment("Select  distinct a.Block_Name,count(distinct b.SC_ID) as Total")
-          : Fragment("Select  distinct a.Block_Name,sum(convert(numeric,No_of_TTeacher)) as Total");
-  return sql(select,
+  return sql(kOfProgramme.For(figure),
              " from Block_Master a,School_Master b where b.SC_ID in(Select School_ID from Enroll_Master"
              " where Enroll_Date between ",
              quoted(coverage.period.from), " and ", quoted(coverage.period.to),
