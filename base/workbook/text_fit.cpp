@@ -47,11 +47,31 @@ double WidthAtMost(std::string_view text, const CellFont& font) {
   return InPoints(kWidest * static_cast<int>(text.size()), font);
 }
 
+/// The lines of a wrapped text: words go on the line while they fit, one that is wider than the room is
+/// broken.
+int WrappedLines(std::string_view text, const CellFont& font, double room) {
+  const double blank = TextWidth(" ", font);
+  int lines = 1;
+  double used = 0;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find(' '), text.size());
+    const double word = TextWidth(text.substr(0, end), font);
+    if (used > 0 && used + word > room) {
+      ++lines;
+      used = 0;
+    }
+    for (used += word; used > room; used -= room) ++lines;
+    used += blank;
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return lines;
+}
+
 int LinesIn(std::string_view text, const CellStyle& style, int column_width) {
   if (!style.alignment.wrapped) return 1;
   const double room =
       std::max(1.0, static_cast<double>(column_width) / kUnitsPerCharacter - kPadding) * kPointsPerCharacter;
-  return std::max(1, static_cast<int>(std::ceil(TextWidth(text, style.font) / room)));
+  return WrappedLines(text, style.font, room);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace ovindra::desktop {
 namespace {
 
-constexpr double kSidePadding = 4;
+constexpr double kSidePadding = 2.5;
 constexpr double kBottomPadding = 2.5;
 
 QColor InkOf(Colour colour) {
@@ -143,13 +143,22 @@ void SheetPainter::PaintText(const QRectF& cell, const QRectF& room, StyleId sty
   }
   painter_.setFont(fonts_.FontOf(style));
   painter_.setPen(InkOf(look.font.colour));
-  const bool clips = look.alignment.wrapped || width > room.width();
-  if (clips) {
-    painter_.save();
+  if (!look.alignment.wrapped && width <= room.width()) {
+    painter_.drawText(box, flags, text);
+    return;
+  }
+  painter_.save();
+  if (is_number && !look.alignment.wrapped) {
+    // A number without its first digits is another number.
+    const double fixed = across == Qt::AlignRight ? room.right() : room.left();
+    painter_.translate(fixed, 0);
+    painter_.scale(room.width() / width, 1);
+    painter_.translate(-fixed, 0);
+  } else {
     painter_.setClipRect(room.adjusted(0, 0, -line_, -line_), Qt::IntersectClip);
   }
   painter_.drawText(box, flags, text);
-  if (clips) painter_.restore();
+  painter_.restore();
 }
 
 void SheetPainter::PaintBorders(const SheetPart& part, const SheetPart::Row& row) {

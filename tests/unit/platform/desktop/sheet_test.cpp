@@ -52,6 +52,17 @@ TEST_F(Sheet, ALongTextRunsOverEmptyNeighboursAndStopsAtFullOnes) {
   EXPECT_FALSE(HasInk(Cells(3, 4, 4), Qt::red));
 }
 
+TEST_F(Sheet, ANumberTooWideForItsCellIsShownWithAllItsDigits) {
+  Write(3, 2, "x");
+  Write(3, 4, "x");
+  Write(3, 3, "738834908112");
+  const QImage shown = Cells(3, 3, 3);
+  for (const char* other : {"138834908112", "738834908117"}) {
+    Write(3, 3, other);
+    EXPECT_NE(Cells(3, 3, 3), shown) << other;
+  }
+}
+
 TEST_F(Sheet, BordersAreInkedOnTheirSidesAlone) {
   desk_.Do([&] {
     desk_.form().F1Book1.Edit().Restyle({5, 3, 5, 3}, [](CellStyle& style) {
