@@ -9,6 +9,7 @@ namespace {
 
 constexpr double kSidePadding = 2.5;
 constexpr double kBottomPadding = 2.5;
+constexpr double kNarrowestText = 0.85;
 
 QColor InkOf(Colour colour) {
   return {Red(colour), Green(colour), Blue(colour)};
@@ -148,11 +149,13 @@ void SheetPainter::PaintText(const QRectF& cell, const QRectF& room, StyleId sty
     return;
   }
   painter_.save();
-  if (is_number && !look.alignment.wrapped) {
-    // A number without its first digits is another number.
+  const double narrowed = room.width() / width;
+  // A number without its first digits is another number; a text that lacks the room for its last letter is
+  // better read narrower.
+  if (!look.alignment.wrapped && (is_number || narrowed >= kNarrowestText)) {
     const double fixed = across == Qt::AlignRight ? room.right() : room.left();
     painter_.translate(fixed, 0);
-    painter_.scale(room.width() / width, 1);
+    painter_.scale(narrowed, 1);
     painter_.translate(-fixed, 0);
   } else {
     painter_.setClipRect(room.adjusted(0, 0, -line_, -line_), Qt::IntersectClip);
