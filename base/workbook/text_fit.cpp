@@ -47,22 +47,32 @@ double WidthAtMost(std::string_view text, const CellFont& font) {
   return InPoints(kWidest * static_cast<int>(text.size()), font);
 }
 
-/// The lines of a wrapped text: words go on the line while they fit, one that is wider than the room is
+/// The end of the text's first piece that no line is broken within: behind a slash or a hyphen, or at a
+/// blank.
+std::size_t EndOfPiece(std::string_view text) {
+  const std::size_t end = text.find_first_of(" /-");
+  if (end == std::string_view::npos) return text.size();
+  return text[end] == ' ' ? end : end + 1;
+}
+
+/// The lines of a wrapped text: pieces go on the line while they fit, one that is wider than the room is
 /// broken.
 int WrappedLines(std::string_view text, const CellFont& font, double room) {
   const double blank = TextWidth(" ", font);
   int lines = 1;
   double used = 0;
   while (!text.empty()) {
-    const std::size_t end = std::min(text.find(' '), text.size());
-    const double word = TextWidth(text.substr(0, end), font);
-    if (used > 0 && used + word > room) {
+    const std::size_t end = EndOfPiece(text);
+    const double piece = TextWidth(text.substr(0, end), font);
+    if (used > 0 && used + piece > room) {
       ++lines;
       used = 0;
     }
-    for (used += word; used > room; used -= room) ++lines;
+    for (used += piece; used > room; used -= room) ++lines;
+    text.remove_prefix(end);
+    if (!text.starts_with(' ')) continue;
     used += blank;
-    text.remove_prefix(std::min(end + 1, text.size()));
+    text.remove_prefix(1);
   }
   return lines;
 }

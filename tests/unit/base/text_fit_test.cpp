@@ -63,6 +63,10 @@ TEST(RowHeights, HoldTheLinesThatTheWordsTake) {
   EXPECT_EQ(line, Workbook::kDefaultRowHeight);
 }
 
+TEST(RowHeights, BreakBehindASlash) {
+  EXPECT_EQ(FittedHeight("SPECTACLE PRESCRIBED/FREE,REFER TO OS CAMP", 6000), 50);
+}
+
 TEST(RowHeights, BreakAWordThatIsWiderThanItsColumn) {
   EXPECT_EQ(FittedHeight("WWWWWWWWWWWWWWWWWWWWWWWWWWWWWW", 6000), 37.5);
 }
