@@ -29,7 +29,7 @@ RULES = {
     "reports": (["reports", "core", "base"], None),
     "platform/embedded": (["platform/embedded", "base"], r"sqlite3\.h|SQLiteCpp/.*|sys/(stat|vfs|statfs|types)\.h|unistd\.h|fcntl\.h"),
     "platform/odbc": (["platform/odbc", "base"], r"sql(ext|types|ucode)?\.h"),
-    "platform/office": (["platform/office", "base"], r"xlsxwriter(/.*|\.h)|gsf/.*|unistd\.h"),
+    "platform/office": (["platform/office", "base"], r"xlsxwriter(/.*|\.h)|gsf/.*|sys/file\.h|unistd\.h"),
     "platform/desktop": (["platform/desktop", "core/startup", "base"], r"Q\w+(/\w+)?|windows\.h|X11/XKBlib\.h"),
     "tools/driver/window": (["tools/driver", "platform/desktop", "app", "core", "base"], r"Q\w+(/\w+)?"),
     "tools/driver/papers": (["tools/driver", "platform/office", "base"], r"freexl\.h|gsf/.*|pugixml\.hpp"),

@@ -194,6 +194,16 @@ TEST_F(OfficeFiles, AFailureOfTheWriterIsPassedOn) {
   EXPECT_EQ(Names().size(), 1U);
 }
 
+TEST_F(OfficeFiles, WhatAKilledProgramHasLeftGoesWithTheNextWriteAndWhatIsBeingWrittenStays) {
+  Keep(".ovindra-1-0.part", "half");
+  ReplaceFile(In("a"), [&](const fs::path& beside) {
+    EXPECT_EQ(Names().size(), 1U) << "only what is being written";
+    WriteWorkbook(OneCell(), In("b.xls"));
+    EXPECT_TRUE(fs::exists(beside));
+  });
+  EXPECT_EQ(Names().size(), 2U);
+}
+
 TEST_F(OfficeFiles, AReplacedFileKeepsItsRightsAndALinkItsTarget) {
   Keep("real.xls", "old");
   fs::permissions(In("real.xls"), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
