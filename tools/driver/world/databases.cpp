@@ -64,7 +64,10 @@ std::unique_ptr<Session> Databases::Connect(std::string_view connection_string) 
   const std::string_view source = SourceName(connection_string);
   for (const auto& [dsn, name] :
        {std::pair("ZQR", DatabaseName::kScreening), std::pair("ward", DatabaseName::kHospital)}) {
-    if (SameWithoutCase(source, dsn) && IsThere(name)) return std::make_unique<RecordingSession>(*this, name);
+    if (!SameWithoutCase(source, dsn) || !IsThere(name)) continue;
+    // A file that can't be used says so now, as it does when the program connects.
+    Database(name);
+    return std::make_unique<RecordingSession>(*this, name);
   }
   throw DataSourceNotFound();
 }

@@ -36,8 +36,12 @@ Program& World::program() {
   if (program_ != nullptr) return *program_;
   MakeProgram();
   Module1& module = program_->module();
-  if (databases_.IsThere(DatabaseName::kScreening)) module.ScreeningConnection.Open(databases_, "DSN=ZQR");
-  if (databases_.IsThere(DatabaseName::kHospital)) module.HospitalConnection.Open(databases_, "DSN=ward");
+  try {
+    if (databases_.IsThere(DatabaseName::kScreening)) module.ScreeningConnection.Open(databases_, "DSN=ZQR");
+    if (databases_.IsThere(DatabaseName::kHospital)) module.HospitalConnection.Open(databases_, "DSN=ward");
+  } catch (const RuntimeError& error) {
+    ShowErrorTail(module.machine, error);
+  }
   return *program_;
 }
 
