@@ -15,6 +15,9 @@ SETUP = os.environ["OVINDRA_SETUP"]
 SHIM = os.environ["OVINDRA_SHIM"]
 SCENARIOS = pathlib.Path(__file__).resolve().parent.parent / "scenarios"
 
+# Nobody's number.
+OTHER = 65534
+
 MESSAGE = re.compile(r'^  message "(?P<text>.*)" title "(?P<title>.*)" (?P<icon>\w+) -> \w+$')
 TYPED_NAME = re.compile(r'^> type Text1 "(.*)"$')
 ENDED = re.compile(r": expected the program running, found it has ended with (.*)$")
@@ -27,6 +30,11 @@ pick Combo8 "GRANT 2016"
 pick Combo6 "ANGANWADI CENTER"
 pick Combo7 "MOTIPUR CENTER"
 pick Combo1 "MOTIPUR SCHOOL"
+"""
+
+# The splash window goes, the connections are opened, the login window comes up.
+START = """start
+tick-timer Timer1 52
 """
 
 CHILD = """clear Text1
@@ -108,18 +116,17 @@ class Desk:
     def __exit__(self, *_):
         self.scratch.cleanup()
 
-    def start(self, lines, fault=None, **options):
-        """Starts the program on the lines; `fault` are the settings of the shim."""
-        scenario = self.root / "played.scenario"
-        if scenario.exists():
-            scenario = pathlib.Path(tempfile.mkstemp(dir=self.root)[1])
+    def start(self, lines, fault=None, on_files=True, drive=DRIVE, **options):
+        """Starts the program on the lines, on the files or on fresh databases in memory; `fault` are the settings of
+        the shim."""
+        scenario = pathlib.Path(tempfile.mkstemp(dir=self.root, suffix=".scenario")[1])
         scenario.write_text(lines, encoding="utf-8")
         scenario.chmod(0o644)
         environment = dict(os.environ)
         if fault:
             environment |= {"LD_PRELOAD": SHIM, "FAULT_FILES": str(self.data)} | fault
         return subprocess.Popen(
-            [DRIVE, "--trace", "--database", self.data, scenario],
+            [drive, "--trace", *(["--database", self.data] if on_files else []), scenario],
             stdout=subprocess.PIPE,
             stderr=subprocess.STDOUT,
             env=environment,
@@ -127,18 +134,32 @@ class Desk:
             **options,
         )
 
-    def play(self, lines, fault=None, **options):
-        return self.finish(self.start(lines, fault, **options))
+    def play(self, *arguments, **options):
+        return self.finish(self.start(*arguments, **options))
+
+    def play_as_other(self, lines, **options):
+        """Plays without the rights of root, for whom nothing is read-only."""
+        self.root.chmod(0o755)
+        drive = shutil.copy(DRIVE, self.root)
+        if os.geteuid() == 0:
+            options |= {"user": OTHER, "group": OTHER, "extra_groups": []}
+        return self.play(lines, drive=drive, **options)
+
+    def give_to_other(self, *paths):
+        if os.geteuid() == 0:
+            for path in paths:
+                os.chown(path, OTHER, OTHER)
 
     @staticmethod
     def finish(process):
         output, _ = process.communicate()
         return seen_in(output, process.returncode < 0)
 
-    def calls_of(self, lines, kind=""):
+    def calls_of(self, lines, kind="", files=None, **options):
         """How many calls the shim counts while the lines are played."""
         count = self.root / "count"
-        self.play(lines, {"FAULT_COUNT": str(count), "FAULT_KIND": kind, "FAULT_AT": str(2**31)})
+        fault = {"FAULT_COUNT": str(count), "FAULT_KIND": kind, "FAULT_AT": str(2**31)}
+        self.play(lines, fault | {"FAULT_FILES": str(files or self.data)}, **options)
         return int(count.read_text())
 
     def children(self):
