@@ -1,12 +1,12 @@
-// Preloaded into a program, fails its calls on the files whose path begins with FAULT_FILES (a folder, or one
-// file). The calls are counted from 1; FAULT_AT is the number of the one that fails, and FAULT_KIND tells
-// how:
+// Preloaded into a program, fails its calls on the files whose path begins with FAULT_FILES (a folder, or
+// one file). The calls that change a file are counted from 1; FAULT_AT is the number of the one that fails,
+// and FAULT_KIND tells how:
 //   kill    the program is killed in place of the call
-//   tear    half of what was to be written is written, then the program is killed; here the writes alone are counted
+//   tear    half is written, then the program is killed; here the writes alone are counted
 //   io      the call fails with EIO, those after it don't
-//   full    this call and every later one that writes fails with ENOSPC
-//   short   half of what was to be written is written, every later call fails with ENOSPC
-//   gone    from this call on every reading fails with EIO; here alone it is the readings that are counted
+//   full    this call and every later one fails with ENOSPC
+//   short   half is written, then every later call fails with ENOSPC
+//   gone    from this call on every reading fails with EIO; here the readings alone are counted
 // At the program's end the count is written to the file FAULT_COUNT.
 #include <algorithm>
 #include <cerrno>
@@ -109,7 +109,7 @@ int Changed(bool is_watched, Change change) {
   return NextChange() == Verdict::kPass ? change() : -1;
 }
 
-/// A disk that has gone takes no lasting room: nothing can be read any more.
+/// Whether the file can't be read any more.
 bool IsGone(int file) {
   Plan& plan = ThePlan();
   if (plan.kind != Kind::kGone || !IsWatched(file) || ++plan.count < plan.at) return false;
