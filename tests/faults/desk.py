@@ -88,7 +88,7 @@ class Desk:
 
     FIRST = "FIRST"
 
-    def __init__(self, like=None):
+    def __init__(self, like=None, umask=-1):
         self.scratch = tempfile.TemporaryDirectory(prefix="ovindra-faults-")
         self.root = pathlib.Path(self.scratch.name)
         self.data = self.root / "data"
@@ -97,10 +97,10 @@ class Desk:
         if like:
             shutil.copytree(like.data, self.data)
         else:
-            self.fill()
+            self.fill(umask)
 
-    def fill(self):
-        self.setup("create", "--user", "BOSS", "--password", "secret")
+    def fill(self, umask):
+        self.setup("create", "--user", "BOSS", "--password", "secret", umask=umask)
         self.play(f'play "{SCENARIOS}/workflow/places.steps"')
         self.setup("check", "--repair")
         assert self.play(enrolling([self.FIRST])).saved == [self.FIRST]

@@ -59,6 +59,15 @@ class Files(unittest.TestCase):
         self.require_refused(self.desk.play(START), text)
         self.assertEqual(self.desk.screening.read_bytes(), before)
 
+    def test_the_files_and_their_saved_copies_are_their_owners_alone(self):
+        with Desk(umask=0) as desk:
+            self.assertEqual(desk.setup("backup", desk.data / "copy.db", umask=0).returncode, 0)
+            self.assertEqual(desk.setup("backup", desk.data / "ward-copy.db", "--hospital", umask=0).returncode, 0)
+            self.assertEqual(desk.play(enrolling(["NEXT"]), umask=0).saved, ["NEXT"])
+            rights = {path.name: oct(path.stat().st_mode & 0o777) for path in desk.data.iterdir()}
+        self.assertLessEqual({"ZQR.db", "ZQR.db-journal", "ward.db", "copy.db", "ward-copy.db"}, set(rights))
+        self.assertEqual(set(rights.values()), {"0o600"}, rights)
+
     def test_a_read_only_file_or_folder(self):
         desk = self.desk
         desk.give_to_other(desk.data, *desk.data.iterdir())
