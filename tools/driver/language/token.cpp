@@ -47,6 +47,12 @@ Token ReadText(std::string_view line, std::size_t begin) {
   return token;
 }
 
+/// Whether a backslash before that would be read as an escape.
+bool BeginsEscape(std::string_view rest) {
+  constexpr std::string_view kWrittenAsEscape = "tnr\\\t\n\r";
+  return !rest.empty() && kWrittenAsEscape.find(rest.front()) != std::string_view::npos;
+}
+
 }  // namespace
 
 std::vector<Token> CutLine(std::string_view line) {
@@ -66,8 +72,12 @@ std::vector<Token> CutLine(std::string_view line) {
 
 std::string Quote(std::string_view text) {
   std::string quoted = "\"";
-  for (const char c : text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const char c = text[at];
     switch (c) {
+      case '\\':
+        quoted += BeginsEscape(text.substr(at + 1)) ? "\\\\" : "\\";
+        break;
       case '"':
         quoted += "\"\"";
         break;

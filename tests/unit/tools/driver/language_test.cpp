@@ -38,10 +38,11 @@ TEST(TextArguments, EscapesAndDoubledQuotes) {
 }
 
 TEST(TextArguments, QuoteWritesWhatCutLineReads) {
-  const std::string text = "a\"b\tc\nd\re\\f";
-  const auto tokens = CutLine(Quote(text));
-  ASSERT_EQ(tokens.size(), 1u);
-  EXPECT_EQ(tokens.front().value, text);
+  for (const char* text : {"a\"b\tc\nd\re\\f", "C:\\temp\\new.xls", "\\\\server\\", "\\\t\\\"\\"}) {
+    const auto tokens = CutLine(Quote(text));
+    ASSERT_EQ(tokens.size(), 1u) << text;
+    EXPECT_EQ(tokens.front().value, text);
+  }
 }
 
 TEST(Arguments, AreReadAsWhatTheyAre) {
