@@ -2,33 +2,23 @@
 
 #include <string>
 
-#include "base/database/database_error.h"
+#include "base/database/connection_string.h"
 #include "core/schema/schema.h"
 #include "platform/embedded/embedded_database.h"
+#include "platform/odbc/odbc_session.h"
 
 namespace ovindra {
-namespace {
 
-/// The value of DSN in "DSN=ZQR;user ID=sa;pwd=...".
-std::string SourceName(std::string_view connection_string) {
-  constexpr std::string_view kKey = "DSN=";
-  const std::size_t at = connection_string.find(kKey);
-  if (at == std::string_view::npos) return {};
-  connection_string.remove_prefix(at + kKey.size());
-  return std::string(connection_string.substr(0, connection_string.find(';')));
-}
-
-}  // namespace
-
-std::unique_ptr<Session> FileDataSources::Connect(std::string_view connection_string) {
+std::unique_ptr<Session> ConfiguredDataSources::Connect(std::string_view connection_string) {
   EmbeddedOptions options;
   options.schema_version = kSchemaVersion;
+  const std::string file_name = std::string(SourceName(connection_string)) + ".db";
   for (const std::filesystem::path& folder : folders_) {
-    const std::filesystem::path file = folder / (SourceName(connection_string) + ".db");
+    const std::filesystem::path file = folder / file_name;
     std::error_code unreadable;
     if (std::filesystem::exists(file, unreadable)) return EmbeddedDatabase::Open(file, options);
   }
-  throw ServerRefusal(Refusal::kOther, "Data source name not found, and no default driver specified");
+  return OdbcSession::Connect(connection_string);
 }
 
 }  // namespace ovindra

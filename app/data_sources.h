@@ -1,6 +1,6 @@
 // Where the program's two connections lead: for each data source a database file of its name, looked for
-// beside the program and then in the user's data folder, unless one folder was asked for. Fails with the
-// error of a driver manager that knows no such data source.
+// beside the program and then in the user's data folder, unless one folder was asked for; where there is no
+// such file, the data source of that name that the machine's ODBC driver manager knows.
 #pragma once
 
 #include <filesystem>
@@ -12,10 +12,10 @@
 
 namespace ovindra {
 
-class FileDataSources : public DataSources {
+class ConfiguredDataSources : public DataSources {
  public:
   /// The folders that are looked into, in this order.
-  explicit FileDataSources(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
+  explicit ConfiguredDataSources(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
 
   std::unique_ptr<Session> Connect(std::string_view connection_string) override;
 

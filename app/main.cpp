@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
   const CommandLine line = ReadCommandLine(application);
   theme::Apply(application);
   desktop::UseSystemShortDateForm();
-  FileDataSources sources(line.folders);
+  ConfiguredDataSources sources(line.folders);
   PaperFiles papers;
   DesktopSpreadsheet spreadsheet;
   desktop::Desktop windows({papers, spreadsheet, papers});

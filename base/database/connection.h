@@ -3,6 +3,7 @@
 // client of a server, a recorder of tests.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,6 +20,13 @@ class Session {
 
   /// Runs one statement as one transaction and reads its result to the end. Fails with the server's refusal.
   virtual Recordset Run(const SqlText& statement) = 0;
+};
+
+/// A session for those who fill a database: it can run many statements as one transaction.
+class TransactionSession : public Session {
+ public:
+  /// Runs what the work runs as one transaction; nothing of it stays when it throws.
+  virtual void RunTogether(const std::function<void()>& work) = 0;
 };
 
 /// Where connections come from.

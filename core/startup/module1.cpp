@@ -1,15 +1,9 @@
 #include "core/startup/module1.h"
 
 #include "base/text/blanks.h"
+#include "core/startup/connection_strings.h"
 
 namespace ovindra {
-namespace {
-
-constexpr const char* kScreeningSource = "DSN=ZQR;user ID=sa;pwd=nova..381;";
-constexpr const char* kHospitalSource = "DSN=ward;user ID=sa;pwd=nova..381;";
-
-}  // namespace
-
 void Module1::OpenConnections() {
   try {
     ScreeningConnection.Open(data_sources_, kScreeningSource);

@@ -27,7 +27,7 @@ struct EmbeddedOptions {
   std::chrono::milliseconds busy_wait{5000};
 };
 
-class EmbeddedDatabase : public Session {
+class EmbeddedDatabase : public TransactionSession {
  public:
   /// Opens a database file. Refuses a missing file, one that is no database, that is of a newer schema, that
   /// can't be written, that stays locked, that lies on a network drive; and, to create one, a file that is
@@ -45,8 +45,7 @@ class EmbeddedDatabase : public Session {
 
   Recordset Run(const SqlText& statement) override;
 
-  /// Runs what the work runs as one transaction: for filling a database with many rows.
-  void RunTogether(const std::function<void()>& work);
+  void RunTogether(const std::function<void()>& work) override;
 
   /// Copies the database as it is now into a file, whatever other programs do meanwhile. The copy is written
   /// beside its place and moved over it when it is whole; a copy that fails leaves what was there.

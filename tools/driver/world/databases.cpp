@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/database/connection_string.h"
 #include "base/database/database_error.h"
 #include "base/text/utf8.h"
 
@@ -11,15 +12,6 @@ namespace {
 /// What a data source manager says where the name is not known to it.
 RuntimeError DataSourceNotFound() {
   return ServerRefusal(Refusal::kOther, "Data source name not found and no default driver specified");
-}
-
-/// The value behind "DSN=".
-std::string_view SourceName(std::string_view connection_string) {
-  constexpr std::string_view kKey = "DSN=";
-  const std::size_t begin = connection_string.find(kKey);
-  if (begin == std::string_view::npos) return {};
-  const std::string_view rest = connection_string.substr(begin + kKey.size());
-  return rest.substr(0, rest.find(';'));
 }
 
 std::string Outcome(const Recordset& result) {
