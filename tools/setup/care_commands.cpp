@@ -11,15 +11,6 @@
 namespace ovindra {
 namespace {
 
-Source SourceOf(const Arguments& arguments) {
-  return arguments.Has("--hospital") ? Source::kHospital : Source::kScreening;
-}
-
-std::vector<Fault> FindFaultsOf(Source source, Session& database, Session& pristine) {
-  return source == Source::kScreening ? FindFaults(database, pristine)
-                                      : FindHospitalFaults(database, pristine);
-}
-
 /// Tells the faults of one database and mends them when told so. True when none is left.
 bool CheckDatabase(const std::filesystem::path& folder, Source source, bool repairs, Console& console) {
   const std::unique_ptr<EmbeddedDatabase> database = OpenDatabase(folder, source);
@@ -29,21 +20,7 @@ bool CheckDatabase(const std::filesystem::path& folder, Source source, bool repa
     for (const std::string& finding : findings) console.out << "  " << finding << '\n';
     return false;
   }
-  const std::unique_ptr<EmbeddedDatabase> pristine = FreshDatabase(source);
-  std::vector<Fault> faults = FindFaultsOf(source, *database, *pristine);
-  // A row that has been put back may show a fault of its own: a new counter stands behind its keys.
-  for (bool mended = repairs; mended;) {
-    mended = false;
-    for (const Fault& fault : faults) {
-      if (!fault.repair) continue;
-      fault.repair();
-      console.out << name << ": Mended. " << fault.text << '\n';
-      mended = true;
-    }
-    faults = FindFaultsOf(source, *database, *pristine);
-  }
-  for (const Fault& fault : faults) console.out << name << ": " << fault.text << '\n';
-  return faults.empty();
+  return CheckRows(source, *database, name, repairs, console);
 }
 
 /// Runs one statement and writes its answer. False when it failed.
@@ -83,7 +60,7 @@ int Check(const Arguments& arguments, Console& console) {
 }
 
 int Backup(const Arguments& arguments, Console& console) {
-  const Source source = SourceOf(arguments);
+  const Source source = ChosenSource(arguments);
   const std::filesystem::path file = arguments.operand(1);
   const std::unique_ptr<EmbeddedDatabase> database = OpenDatabase(arguments.operand(0), source);
   if (std::filesystem::exists(file)) throw embedded::FileIsThere(file.string());
@@ -94,7 +71,8 @@ int Backup(const Arguments& arguments, Console& console) {
 }
 
 int Sql(const Arguments& arguments, Console& console) {
-  const std::unique_ptr<EmbeddedDatabase> database = OpenDatabase(arguments.operand(0), SourceOf(arguments));
+  const std::unique_ptr<EmbeddedDatabase> database =
+      OpenDatabase(arguments.operand(0), ChosenSource(arguments));
   const bool as_json = arguments.Has("--json");
   const std::string& statement = arguments.operand(1);
   if (statement != "-") return AnswerStatement(*database, statement, as_json, console) ? kDone : kFailed;

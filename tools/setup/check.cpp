@@ -6,28 +6,11 @@
 #include "core/schema/schema.h"
 #include "tools/setup/required_rows.h"
 #include "tools/setup/running_numbers.h"
+#include "tools/setup/schema_tables.h"
 #include "tools/setup/statement.h"
 
 namespace ovindra {
 namespace {
-
-constexpr std::string_view kCreateTable = "create table ";
-constexpr std::string_view kWorkTable = "GRANT2016";
-
-/// The batch of the script that creates the table.
-std::string_view TableBatch(std::string_view schema, std::string_view table) {
-  const std::size_t start = schema.find(std::string(kCreateTable) + std::string(table) + " (");
-  return schema.substr(start, schema.find("\nGO", start) - start);
-}
-
-std::vector<std::string_view> TableNames(std::string_view schema) {
-  std::vector<std::string_view> names;
-  for (std::size_t at = 0; (at = schema.find(kCreateTable, at)) != std::string_view::npos;) {
-    at += kCreateTable.size();
-    names.push_back(schema.substr(at, schema.find(' ', at) - at));
-  }
-  return names;
-}
 
 /// The columns of a table; none when it can't be read.
 std::vector<std::string> Columns(Session& session, std::string_view table) {
@@ -45,16 +28,16 @@ bool Holds(const std::vector<std::string>& columns, std::string_view name) {
 
 void FindMissingTables(Session& session, Session& pristine, std::string_view schema,
                        std::vector<Fault>& faults) {
-  for (const std::string_view table : TableNames(schema)) {
+  for (const SchemaTable& table : TablesOf(schema)) {
     // The export makes its work table anew, with the columns of its own statement.
-    if (table == kWorkTable) continue;
-    const std::vector<std::string> columns = Columns(session, table);
-    const std::string fault = "The table " + std::string(table);
+    if (table.name == kWorkTable) continue;
+    const std::vector<std::string> columns = Columns(session, table.name);
+    const std::string fault = "The table " + std::string(table.name);
     if (columns.empty()) {
       faults.push_back({fault + " is missing or can't be read. Restore a backup.", {}});
       continue;
     }
-    for (const std::string& column : Columns(pristine, table)) {
+    for (const std::string& column : Columns(pristine, table.name)) {
       if (Holds(columns, column)) continue;
       faults.push_back({fault, {}});
       faults.back().text.append(" has no column ").append(column).append(". Restore a backup.");
@@ -86,7 +69,7 @@ void FindWorkTableFaults(Session& screening, std::vector<Fault>& faults) {
   if (Columns(screening, kWorkTable).empty()) {
     faults.push_back(
         {"The work table GRANT2016 is missing: the programme's export would fail.", [&, add_blank_row] {
-           Execute(screening, WholeStatement(std::string(TableBatch(ScreeningSchema(), kWorkTable))));
+           Execute(screening, WholeStatement(BatchOf(ScreeningSchema(), kWorkTable)));
            add_blank_row();
          }});
   } else if (Execute(screening, sql("select count(*) as Total from GRANT2016")).At(0).AsInteger() == 0) {
@@ -121,6 +104,28 @@ std::vector<Fault> FindHospitalFaults(Session& hospital, Session& pristine) {
   std::vector<Fault> faults;
   FindMissingTables(hospital, pristine, HospitalSchema(), faults);
   return faults;
+}
+
+bool CheckRows(Source source, Session& database, std::string_view name, bool repairs, Console& console) {
+  const std::unique_ptr<EmbeddedDatabase> pristine = FreshDatabase(source);
+  const auto find = [&] {
+    return source == Source::kScreening ? FindFaults(database, *pristine)
+                                        : FindHospitalFaults(database, *pristine);
+  };
+  std::vector<Fault> faults = find();
+  // A row that has been put back may show a fault of its own: a new counter stands behind its keys.
+  for (bool mended = repairs; mended;) {
+    mended = false;
+    for (const Fault& fault : faults) {
+      if (!fault.repair) continue;
+      fault.repair();
+      console.out << name << ": Mended. " << fault.text << '\n';
+      mended = true;
+    }
+    faults = find();
+  }
+  for (const Fault& fault : faults) console.out << name << ": " << fault.text << '\n';
+  return faults.empty();
 }
 
 }  // namespace ovindra

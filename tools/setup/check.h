@@ -5,9 +5,12 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/database/connection.h"
+#include "tools/setup/console.h"
+#include "tools/setup/database_files.h"
 
 namespace ovindra {
 
@@ -24,5 +27,9 @@ std::vector<Fault> FindFaults(Session& screening, Session& pristine);
 
 /// The faults of an open hospital records database.
 std::vector<Fault> FindHospitalFaults(Session& hospital, Session& pristine);
+
+/// Finds the faults of an open database of either kind and tells each on a line, the name before it. With
+/// `repairs` it mends what can be mended first. True when no fault is left.
+bool CheckRows(Source source, Session& database, std::string_view name, bool repairs, Console& console);
 
 }  // namespace ovindra

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "core/schema/schema.h"
+#include "core/startup/connection_strings.h"
 #include "platform/embedded/database_file.h"
 #include "platform/embedded/refusals.h"
 
@@ -66,6 +67,10 @@ fs::path DatabaseFile(const fs::path& folder, Source source) {
 
 std::string_view SchemaOf(Source source) {
   return source == Source::kScreening ? ScreeningSchema() : HospitalSchema();
+}
+
+std::string_view ConnectionStringOf(Source source) {
+  return source == Source::kScreening ? kScreeningSource : kHospitalSource;
 }
 
 std::unique_ptr<EmbeddedDatabase> OpenDatabase(const fs::path& folder, Source source) {

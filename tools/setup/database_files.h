@@ -18,6 +18,9 @@ std::filesystem::path DatabaseFile(const std::filesystem::path& folder, Source s
 /// The script that defines the database.
 std::string_view SchemaOf(Source source);
 
+/// How the program reaches the database on a server.
+std::string_view ConnectionStringOf(Source source);
+
 /// Opens a file that is there. Fails with one clear text for each reason.
 std::unique_ptr<EmbeddedDatabase> OpenDatabase(const std::filesystem::path& folder, Source source);
 

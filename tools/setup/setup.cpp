@@ -23,7 +23,7 @@ constexpr std::array<std::string_view, 2> kFolderAndStatement{"FOLDER", "STATEME
 constexpr std::array kCreateOptions{OptionSyntax{"--user", "NAME"}, OptionSyntax{"--password", "TEXT"}};
 constexpr std::array kDemoOptions{OptionSyntax{"--children", "NUMBER"}};
 constexpr std::array kCheckOptions{OptionSyntax{"--repair", ""}};
-constexpr std::array kBackupOptions{OptionSyntax{"--hospital", ""}};
+constexpr std::array kHospitalOption{OptionSyntax{"--hospital", ""}};
 constexpr std::array kSqlOptions{OptionSyntax{"--hospital", ""}, OptionSyntax{"--json", ""}};
 
 constexpr std::array kCommands{
@@ -40,7 +40,7 @@ constexpr std::array kCommands{
         {"check", kFolder, kCheckOptions,
          "tells what is wrong with the databases, and mends with --repair what can be mended without loss."},
         Check},
-    Command{{"backup", kFolderAndFile, kBackupOptions,
+    Command{{"backup", kFolderAndFile, kHospitalOption,
              "saves the screening database as a new file, also while the program runs; with --hospital the\n"
              "hospital records. To go back, put the file in the place of ZQR.db or ward.db while no program\n"
              "runs."},
@@ -50,6 +50,23 @@ constexpr std::array kCommands{
          "runs a statement and shows its rows; with --hospital on the hospital records. Where the statement\n"
          "is -, each line of the input is one. With --json each answer is one line."},
         Sql},
+    Command{
+        {"server-script",
+         {},
+         kHospitalOption,
+         "prints the script that makes the tables of the screening database on a Transact-SQL server, or\n"
+         "those of the hospital records: for the server's own tool."},
+        ServerScript},
+    Command{{"move", kFolder, kHospitalOption,
+             "copies the rows of ZQR.db to the data source ZQR, where the script has been run, or those of\n"
+             "ward.db to ward. All numbers stay as they are. A move that fails leaves the server as it was."},
+            Move},
+    Command{{"check-server",
+             {},
+             kCheckOptions,
+             "tells what is wrong with the rows of the data source ZQR, and mends with --repair what can be\n"
+             "mended without loss."},
+            CheckServer},
 };
 
 std::string Help() {
