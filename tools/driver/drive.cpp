@@ -1,8 +1,11 @@
 #include "tools/driver/drive.h"
 
+#include <fstream>
+
 #include "tools/driver/language/grammar.h"
 #include "tools/driver/language/script.h"
 #include "tools/driver/runner/runner.h"
+#include "tools/driver/world/statement_log.h"
 
 namespace ovindra::driver {
 namespace {
@@ -12,7 +15,8 @@ constexpr int kSomeFailed = 1;
 constexpr int kNotUnderstood = 2;
 
 constexpr const char* kUsage =
-    "usage: ovindra-drive [--window [--dark]] [--trace] [--database FOLDER] [--pictures FOLDER] FILE...";
+    "usage: ovindra-drive [--window [--dark]] [--trace] [--database FOLDER] [--pictures FOLDER]\n"
+    "                     [--statements FILE] FILE...";
 
 struct CommandLine {
   bool window = false;
@@ -20,6 +24,7 @@ struct CommandLine {
   bool trace = false;
   std::string database_folder;
   std::string picture_folder = ".";
+  std::string statement_file;
   std::vector<std::string> files;
 };
 
@@ -28,7 +33,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
   for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
     const auto value_of = [&] {
       const std::string option = *argument;
-      if (++argument == arguments.end()) throw LanguageError(option + " needs a folder\n" + kUsage);
+      if (++argument == arguments.end()) throw LanguageError(option + " needs a name\n" + kUsage);
       return *argument;
     };
     if (*argument == "--window") {
@@ -41,6 +46,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
       line.database_folder = value_of();
     } else if (*argument == "--pictures") {
       line.picture_folder = value_of();
+    } else if (*argument == "--statements") {
+      line.statement_file = value_of();
     } else if (argument->starts_with("--")) {
       throw LanguageError("unknown option '" + *argument + "'\n" + kUsage);
     } else {
@@ -67,6 +74,12 @@ std::vector<Scenario> ReadAll(const std::vector<std::string>& files) {
   return all;
 }
 
+void WriteLog(const StatementLog& log, const std::string& file) {
+  std::ofstream out(file);
+  log.Write(out);
+  if (!out.flush()) throw LanguageError("--statements: can't write " + file);
+}
+
 }  // namespace
 
 int Drive(const std::vector<std::string>& arguments, const DriveParts& parts, std::ostream& out,
@@ -75,10 +88,13 @@ int Drive(const std::vector<std::string>& arguments, const DriveParts& parts, st
     const CommandLine line = ReadCommandLine(arguments);
     const std::vector<Scenario> scenarios = ReadAll(line.files);
     const std::unique_ptr<Player> player = MakePlayer(line, parts);
-    Runner runner({parts.forms, parts.databases(line.database_folder), line.picture_folder, line.trace},
-                  *player, out);
+    const StatementLog log;
+    Runner runner(
+        {parts.forms, log.Over(parts.databases(line.database_folder)), line.picture_folder, line.trace},
+        *player, out);
     int passed = 0;
     for (const Scenario& scenario : scenarios) passed += runner.Play(scenario) ? 1 : 0;
+    if (!line.statement_file.empty()) WriteLog(log, line.statement_file);
     const int failed = static_cast<int>(scenarios.size()) - passed;
     out << passed << " passed, " << failed << " failed" << std::endl;
     return failed == 0 ? kAllHeld : kSomeFailed;

@@ -1,4 +1,6 @@
 // The program: what it prints, how it ends, its options.
+#include <fstream>
+
 #include <gtest/gtest.h>
 
 #include "tests/unit/tools/driver/desk.h"
@@ -62,6 +64,17 @@ TEST_F(DriveProgram, TracesActionsStatementsMessagesAndFocus) {
             "  focus frmDesk Command1\n"
             "  message \"Sure?\" title \"OVD\" question -> yes\n"
             "1 passed, 0 failed\n");
+}
+
+TEST_F(DriveProgram, WritesTheStatementsThatRan) {
+  const std::string file = Write("a.scenario",
+                                 "open frmDesk\nsql keep B\nsql keep A\nsql keep B\ntype Text2 \"boom\"\n"
+                                 "click Command2\nexpect message \"*\"");
+  const std::string log = folder_.Path("statements.sql");
+  EXPECT_EQ(DriveDesk({"--statements", log, file}).out, "1 passed, 0 failed\n");
+  std::ifstream in(log);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), "keep A\nGO\nkeep B\nGO\n");
+  EXPECT_EQ(DriveDesk({"--statements", folder_.Path("none/statements.sql"), file}).exit_code, 2);
 }
 
 }  // namespace
