@@ -92,7 +92,7 @@ void frmconsolidation::ProgrammeWise() {
 std::string frmconsolidation::BuildReport(std::initializer_list<TableOfLocation> tables) {
   ShowHourglass();
   printtitleinsheet();
-  const std::string location = LocationCode();
+  std::string location = LocationCode();
   for (const TableOfLocation& row : tables) {
     if (row.location != location) continue;
     const Coverage coverage{ReadPeriod(), location, row.table->scope, ScopeValue(row.table->scope)};

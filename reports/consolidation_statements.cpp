@@ -180,7 +180,7 @@ SqlText SchoolRegisterSum(const Coverage& coverage, RegisterColumns columns) {
           ? Fragment("select sum(convert(numeric,TNO_of_Boys))+ sum(convert(numeric,TNO_of_Girls)) as Total")
           : Fragment(
                 "select sum(convert(numeric,Screened_Boys))+ sum(convert(numeric,Screened_Girls)) as Total");
-  const SqlText all = sql(sums, " from Screened_School where Screening_date between ", period);
+  SqlText all = sql(sums, " from Screened_School where Screening_date between ", period);
   if (coverage.scope == Scope::kSankul) return sql(all, " and Sankul_ID=", bare(coverage.scope_value));
   return all;
 }

@@ -1,5 +1,7 @@
 #include "reports/listing.h"
 
+#include <string>
+
 #include "base/text/blanks.h"
 
 namespace ovindra {
@@ -26,7 +28,7 @@ int WriteRecords(Sheet& sheet, int first_row, Recordset& records, std::span<cons
   for (; !records.Eof(); records.MoveNext()) {
     ++row;
     int column = 1;
-    sheet.SetCellText(row, column, row - first_row + 1);
+    sheet.SetCellText(row, column, std::to_string(row - first_row + 1));
     for (const std::size_t ordinal : ordinals) sheet.SetCellText(row, ++column, records.At(ordinal));
   }
   return row;
@@ -37,7 +39,7 @@ int WriteGridRows(Sheet& sheet, int first_row, const Grid& grid, std::initialize
   for (int grid_row = grid.fixed_rows(); grid_row < grid.rows(); ++grid_row) {
     ++row;
     int column = 1;
-    sheet.SetCellText(row, column, row - first_row + 1);
+    sheet.SetCellText(row, column, std::to_string(row - first_row + 1));
     for (const int grid_column : columns)
       sheet.SetCellText(row, ++column, Trim(grid.Cell(grid_row, grid_column)));
   }

@@ -10,9 +10,6 @@
 namespace ovindra {
 namespace {
 
-constexpr char32_t kFirstMeasured = U' ';
-constexpr unsigned char kFirstBeyondAscii = 0x80;
-
 /// Times Roman from the blank to the tilde, in thousandths of the font's size.
 constexpr std::array<std::uint16_t, 95> kWidths = {
     250, 333, 408, 500, 500, 833, 778, 180, 333, 333, 500, 564, 250, 333, 250, 278, 500, 500, 500,
@@ -25,6 +22,14 @@ constexpr std::array<std::uint16_t, 95> kWidths = {
 constexpr int kOtherWidth = 722;
 constexpr double kBoldFactor = 1.08;
 
+/// The widths of the characters that are one byte: a control character has none.
+constexpr auto kByteWidths = [] {
+  std::array<std::uint16_t, 128> widths{};
+  std::copy(kWidths.begin(), kWidths.end(), widths.begin() + ' ');
+  widths.back() = kOtherWidth;
+  return widths;
+}();
+
 /// What a column's unit of one character is in points: the digit of the sheet's own font, 10 points of Times.
 constexpr double kPointsPerCharacter = 5;
 constexpr int kUnitsPerCharacter = 256;
@@ -32,9 +37,7 @@ constexpr int kUnitsPerCharacter = 256;
 constexpr double kPadding = 1.2;
 
 int WidthOf(char32_t character) {
-  if (character < kFirstMeasured) return 0;
-  const std::size_t place = character - kFirstMeasured;
-  return place < kWidths.size() ? kWidths[place] : kOtherWidth;
+  return character < kByteWidths.size() ? kByteWidths[character] : kOtherWidth;
 }
 
 double InPoints(int thousandths, const CellFont& font) {
@@ -91,8 +94,8 @@ double TextWidth(std::string_view text, const CellFont& font) {
   while (!text.empty()) {
     // Most texts are of the letters that are one byte each.
     const auto byte = static_cast<unsigned char>(text.front());
-    if (byte < kFirstBeyondAscii) {
-      thousandths += WidthOf(byte);
+    if (byte < kByteWidths.size()) {
+      thousandths += kByteWidths[byte];
       text.remove_prefix(1);
     } else {
       thousandths += WidthOf(TakeCharacter(text));
