@@ -3,6 +3,7 @@
 #   ZQR      a PostgreSQL server that is started for it, user sa, password nova..381
 #   slow     the same server, its rows fetched in portions over the wire
 #   ward     an SQLite file
+#   scripted the driver of a Transact-SQL server, and one that answers as a script says (scripted_server.py)
 #   refused  a Transact-SQL server's driver on a port where nobody listens
 #   nowhere  the same driver on a server whose name does not resolve
 # usage: with_data_sources.sh DRIVER_FOLDER PROGRAM ARGUMENT...
@@ -22,6 +23,7 @@ in_server() {
 }
 
 finish() {
+  [ -z "${scripted:-}" ] || kill "$scripted"
   in_server pg_ctl -D "$folder/data" -m immediate stop || true
   rm -rf "$folder"
 }
@@ -33,6 +35,10 @@ chmod a+r "$folder/password"
 in_server initdb -D "$folder/data" -U sa --auth=scram-sha-256 --pwfile="$folder/password" -E UTF8 --locale=C.UTF-8 --no-sync
 in_server pg_ctl -D "$folder/data" -w -l "$folder/data/log" \
   -o "-c listen_addresses='' -c unix_socket_directories='$folder' -c fsync=off" start
+
+python3 -B "$(dirname "$(readlink -f "$0")")/scripted_server.py" >"$folder/port" &
+scripted=$!
+while [ ! -s "$folder/port" ]; do sleep 0.05; done
 
 cat >"$folder/odbc.ini" <<END
 [ZQR]
@@ -48,6 +54,11 @@ Fetch = 100
 [ward]
 Driver = $drivers/libsqlite3odbc.so
 Database = $folder/ward.sqlite
+[scripted]
+Driver = $drivers/libtdsodbc.so
+Server = 127.0.0.1
+Port = $(cat "$folder/port")
+TDS_Version = 7.4
 [refused]
 Driver = $drivers/libtdsodbc.so
 Server = 127.0.0.1
