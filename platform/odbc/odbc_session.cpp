@@ -52,6 +52,7 @@ EnvironmentHandle& Prepared(EnvironmentHandle& environment) {
 }
 
 SQLRETURN SetAttribute(const ConnectionHandle& connection, SQLINTEGER attribute, SQLULEN value) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): ODBC takes numbers in the place of pointers.
   return SQLSetConnectAttr(connection.get(), attribute, reinterpret_cast<SQLPOINTER>(value), SQL_IS_UINTEGER);
 }
 

@@ -139,8 +139,7 @@ MovedTable MoveTable(Session& source, Session& server, const SchemaTable& table,
   CopyRows(source, server, table);
   if (!table.identity.empty()) KeepNextNumber(server, table, next_number);
   SwitchNumbering(server, table, "off");
-  const MovedTable moved{std::string(table.name), CountRows(source, table.name),
-                         CountRows(server, table.name)};
+  MovedTable moved{std::string(table.name), CountRows(source, table.name), CountRows(server, table.name)};
   if (moved.rows_here == moved.rows_there) return moved;
   throw ServerRefusal(Refusal::kOther, "The table " + moved.name + " has " + std::to_string(moved.rows_here) +
                                            " rows here and " + std::to_string(moved.rows_there) +
