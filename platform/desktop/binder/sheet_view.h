@@ -38,7 +38,7 @@ class SheetView : public QTableView {
   void OpenFindBar();
   void CloseFindBar();
 
-  QSize sizeHint() const override { return {1340, 560}; }
+  QSize sizeHint() const override { return {1340, 430}; }
   void keyboardSearch(const QString& /*text*/) override {}
 
  signals:

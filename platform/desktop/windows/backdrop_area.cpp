@@ -27,9 +27,10 @@ BackdropArea::BackdropArea(QWidget* parent) : QMdiArea(parent) {
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
-void BackdropArea::Place(QMdiSubWindow& child) {
+void BackdropArea::Place(QMdiSubWindow& child, Height height) {
   const QSize room = viewport()->size();
-  const QSize size = child.sizeHint().expandedTo(child.minimumSizeHint()).boundedTo(room);
+  QSize size = child.sizeHint().expandedTo(child.minimumSizeHint()).boundedTo(room);
+  if (height == Height::kAll) size.setHeight(room.height());
   child.resize(size);
   const QPoint most(room.width() - size.width(), room.height() - size.height());
   const auto inside = [&](QPoint place) {

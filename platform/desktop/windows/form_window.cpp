@@ -9,6 +9,8 @@
 #include <QVariant>
 #include <utility>
 
+#include "platform/desktop/binder/sheet_view.h"
+
 namespace ovindra::desktop {
 namespace {
 
@@ -79,7 +81,9 @@ void FormWindow::MakeChild(BackdropArea& area) {
   connect(&area, &QMdiArea::subWindowActivated, &view_, [this, child](const QMdiSubWindow* active) {
     if (active == child) view_.ShowFocus();
   });
-  area.Place(*child);
+  // A sheet is read from its top to its end, and every row that is in sight helps.
+  const bool is_report = view_.root()->findChild<SheetView*>() != nullptr;
+  area.Place(*child, is_report ? BackdropArea::Height::kAll : BackdropArea::Height::kWished);
 }
 
 void FormWindow::ShowAlone(const QString& kind) {
