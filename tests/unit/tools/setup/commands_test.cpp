@@ -1,15 +1,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "core/schema/schema.h"
+#include "tests/unit/tools/setup/played_command.h"
 #include "tests/unit/tools/setup/test_database.h"
 #include "tools/setup/answers.h"
 #include "tools/setup/database_files.h"
-#include "tools/setup/setup.h"
 
 namespace ovindra {
 namespace {
@@ -27,15 +26,11 @@ class SetupProgram : public testing::Test {
   ~SetupProgram() override { fs::remove_all(root_); }
 
   /// Runs a command and gives its exit code; what it wrote is in out_ and error_.
-  int Run(std::vector<std::string> arguments, const std::string& input = {}) {
-    std::istringstream in(input);
-    std::ostringstream out;
-    std::ostringstream error;
-    Console console{in, out, error};
-    const int code = RunSetup(arguments, console);
-    out_ = out.str();
-    error_ = error.str();
-    return code;
+  int Run(const std::vector<std::string>& arguments, const std::string& input = {}) {
+    const PlayedCommand played = Play(arguments, input);
+    out_ = played.out;
+    error_ = played.error;
+    return played.code;
   }
   int CreateBoss() { return Run({"create", folder_, "--user", "BOSS", "--password", "secret"}); }
 
