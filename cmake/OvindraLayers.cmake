@@ -26,13 +26,18 @@ function(ovindra_program name)
   target_link_libraries(${name} PRIVATE ovindra_warnings ${arg_LINKS})
 endfunction()
 
-# ovindra_test(NAME SOURCES file... [LINKS target...]): a GoogleTest program; each of its tests is one of ctest.
+# ovindra_test(NAME [TOGETHER] SOURCES file... [LINKS target...]): a GoogleTest program; each of its tests is one of ctest,
+# or all of them are one, where a test's start takes longer than the test.
 function(ovindra_test name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(arg "TOGETHER" "" "SOURCES;LINKS" ${ARGN})
   find_package(GTest REQUIRED)
   include(GoogleTest)
   add_executable(${name} ${arg_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE ovindra_warnings ${arg_LINKS} GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+  if(arg_TOGETHER)
+    add_test(NAME ${name} COMMAND ${name})
+  else()
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+  endif()
 endfunction()
