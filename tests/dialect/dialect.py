@@ -1,15 +1,16 @@
-"""Reads every statement that the program, its tools and its scenarios send, and the server's scripts, with a
-Transact-SQL parser that knows nothing of this program.
+"""Reads every statement that the program, its tools, its scenarios and the tests of its reports send, and the server's
+scripts, with a Transact-SQL parser that knows nothing of this program.
 
-usage: dialect.py DRIVE TOOL_STATEMENTS SOURCE_FOLDER [--long]
+usage: dialect.py DRIVE TOOL_STATEMENTS REPORTS_TEST SOURCE_FOLDER [--long]
 
-The statements are collected from all scenarios, played on the controls, and from TOOL_STATEMENTS. Their structures are
-parsed, with every name once; with --long each statement is parsed as it stands, but for its literals. What the parser's
-grammar can't take is known below, by a rule that says what to put in its place: a statement that no rule mends is a
-failure, and so is a rule that is needed no more.
+The statements are collected from all scenarios, played on the controls, from TOOL_STATEMENTS and from REPORTS_TEST.
+Their structures are parsed, with every name once; with --long each statement is parsed as it stands, but for its
+literals. What the parser's grammar can't take is known below, by a rule that says what to put in its place: a statement
+that no rule mends is a failure, and so is a rule that is needed no more.
 """
 
 import multiprocessing
+import os
 import pathlib
 import re
 import subprocess
@@ -53,12 +54,14 @@ def batches(script):
     return [batch for batch in re.split(r"^GO$\n?", script, flags=re.M) if batch.strip()]
 
 
-def collect(drive, tool_statements, source):
+def collect(drive, tool_statements, reports_test, source):
     scenarios = source / "tests/scenarios"
     files = sorted(str(file.relative_to(scenarios)) for file in scenarios.rglob("*.scenario"))
     with tempfile.TemporaryDirectory() as folder:
         log = pathlib.Path(folder) / "statements.sql"
         subprocess.run([drive, "--statements", log, *files], cwd=scenarios, check=True, stdout=subprocess.DEVNULL)
+        subprocess.run([reports_test], env={**os.environ, "OVINDRA_STATEMENTS": str(log)}, check=True,
+                       stdout=subprocess.DEVNULL)
         sent = log.read_text(encoding="utf-8")
     return batches(sent + subprocess.run([tool_statements], check=True, capture_output=True, text=True).stdout)
 
@@ -83,9 +86,9 @@ def self_test():
     assert names == {"a", "no", "name", "t", "age", "x"}, names
 
 
-def main(drive, tool_statements, source, *options):
+def main(drive, tool_statements, reports_test, source, *options):
     self_test()
-    statements = collect(drive, tool_statements, pathlib.Path(source))
+    statements = collect(drive, tool_statements, reports_test, pathlib.Path(source))
     shapes = {shape(statement) for statement in statements}
     names = set()
     # What a setting sets is a word of the language, not a name.

@@ -1,5 +1,7 @@
 #include "tests/unit/reports/demonstration.h"
 
+#include <cstdlib>
+#include <fstream>
 #include <stdexcept>
 
 #include "app/forms.h"
@@ -13,10 +15,18 @@
 namespace ovindra {
 namespace {
 
+/// Names a file to which the forms' statements are appended, for whoever checks their language.
+constexpr auto kStatementsFile = "OVINDRA_STATEMENTS";
+
 class SharedSession : public Session {
  public:
   explicit SharedSession(Session& session) : session_(session) {}
-  Recordset Run(const SqlText& statement) override { return session_.Run(statement); }
+  Recordset Run(const SqlText& statement) override {
+    Recordset answer = session_.Run(statement);
+    if (const char* file = std::getenv(kStatementsFile))
+      std::ofstream(file, std::ios::app) << statement.text() << "\nGO\n";
+    return answer;
+  }
 
  private:
   Session& session_;
