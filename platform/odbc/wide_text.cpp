@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/text/utf16.h"
 #include "base/text/utf8.h"
 
 namespace ovindra::odbc {
@@ -22,15 +23,8 @@ bool IsHalf(char32_t unit, char32_t half) {
 std::vector<SQLWCHAR> WideText(std::string_view text) {
   std::vector<SQLWCHAR> wide;
   wide.reserve(text.size());
-  for (const char32_t character : Characters(text)) {
-    if (character < kFirstOfPairs) {
-      wide.push_back(static_cast<SQLWCHAR>(character));
-    } else {
-      const char32_t rest = character - kFirstOfPairs;
-      wide.push_back(static_cast<SQLWCHAR>(kHighHalf + (rest >> 10)));
-      wide.push_back(static_cast<SQLWCHAR>(kLowHalf + (rest & kHalfMask)));
-    }
-  }
+  for (const char32_t character : Characters(text))
+    ForEachUtf16Unit(character, [&](std::uint16_t unit) { wide.push_back(unit); });
   return wide;
 }
 

@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "base/runtime_error.h"
+#include "base/text/utf16.h"
 #include "base/text/utf8.h"
 #include "platform/office/file_handle.h"
-#include "platform/office/utf16.h"
 
 namespace ovindra::office {
 namespace {

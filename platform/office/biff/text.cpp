@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "base/text/utf16.h"
 #include "base/text/utf8.h"
-#include "platform/office/utf16.h"
 
 namespace ovindra::office {
 

@@ -1,13 +1,15 @@
 // The report sheet on the screen: what a person sees of it and does with it.
+#include <QApplication>
 #include <QClipboard>
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QHeaderView>
+#include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include "platform/desktop/windows/form_window.h"
 #include "sheet_desk.h"
 
 namespace ovindra::desktop {
@@ -198,6 +200,26 @@ TEST_F(Sheet, AHundredThousandRowsOpenAtOnce) {
   RecordProperty("opened_ms", static_cast<int>(opened));
   RecordProperty("hundred_places_ms", static_cast<int>(clock.elapsed()));
   EXPECT_LT(opened, 1000);
+}
+
+TEST(ReportWindow, TakesTheHeightOfTheAreaAnyOtherWhatItWishes) {
+  NoOffice office;
+  const ViewSettings still{"", Timers::kStandStill};
+  Desktop desktop((UseOffscreenApplication(), office.services()), still);
+  frmsheet report(desktop.machine());
+  BackdropArea area;
+  area.resize(1366, 900);
+  area.show();
+  QApplication::processEvents();
+  const auto perform = [](const std::function<void()>& action) { action(); };
+  FormWindow window(report, perform, still, {}, [](Form&) {});
+  window.Show(&area);
+  EXPECT_EQ(window.window()->height(), area.viewport()->height());
+  QMdiSubWindow other;
+  other.setWidget(new SheetView);
+  area.addSubWindow(&other);
+  area.Place(other, BackdropArea::Height::kWished);
+  EXPECT_LT(other.height(), area.viewport()->height());
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
-// UTF-16, in which office files count and keep their characters.
+// UTF-16, in which office files and the drivers of databases count and keep their characters.
 #pragma once
 
 #include <cstdint>
 
-namespace ovindra::office {
+namespace ovindra {
 
 /// Hands the one or two UTF-16 units of a character to `take`.
 template <typename Take>
@@ -17,4 +17,4 @@ void ForEachUtf16Unit(char32_t character, Take take) {
   take(static_cast<std::uint16_t>(0xDC00 + (above & 0x3FFU)));
 }
 
-}  // namespace ovindra::office
+}  // namespace ovindra
