@@ -9,7 +9,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 option(OVINDRA_WARNINGS_ARE_ERRORS "A warning stops the build" ON)
 option(OVINDRA_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(OVINDRA_BENCH "Build the benchmarks" OFF)
-option(OVINDRA_FUZZ "Build the fuzz targets (clang only)" OFF)
+option(OVINDRA_FUZZ "Build the fuzz targets, too (clang and OVINDRA_SANITIZE only)" OFF)
 
 add_library(ovindra_warnings INTERFACE)
 target_compile_options(ovindra_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
@@ -19,11 +19,6 @@ endif()
 
 if(OVINDRA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
-endif()
-
-if(OVINDRA_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
