@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test: installs the Debian packages that are missing.
 
-run_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev libsqlite3-dev libsqlitecpp-dev libgsf-1-dev
-  libxlsxwriter-dev libfreexl-dev libpugixml-dev unixodbc-dev
+run_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6opengl6-dev qt6-tools-dev libsqlite3-dev
+  libsqlitecpp-dev libgsf-1-dev libxlsxwriter-dev libfreexl-dev libpugixml-dev unixodbc-dev
   libgtest-dev libgmock-dev fonts-noto-core"
 test_packages="$run_packages clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 python3 python3-xlrd python3-openpyxl
   libreoffice-calc-nogui libreoffice-writer-nogui sqlite3 strace
