@@ -4,7 +4,7 @@ run_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6opengl6
   libsqlitecpp-dev libgsf-1-dev libxlsxwriter-dev libfreexl-dev libpugixml-dev unixodbc-dev
   libgtest-dev libgmock-dev fonts-noto-core"
 test_packages="$run_packages clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 python3 python3-xlrd python3-openpyxl
-  libreoffice-calc-nogui libreoffice-writer-nogui sqlite3 strace
+  poppler-utils libreoffice-calc-nogui libreoffice-writer-nogui sqlite3 strace
   libsqliteodbc odbc-postgresql postgresql tdsodbc sqlfluff"
 bench_packages="$run_packages libbenchmark-dev python3-xlwt strace"
 
