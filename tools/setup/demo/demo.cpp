@@ -60,7 +60,7 @@ DemoScale DemoScale::ForChildren(int children) {
   scale.sankuls = std::max({scale.sankuls, scale.blocks, centers / 2});
   scale.vision_centers = std::max(scale.vision_centers, scale.schools / 100);
   scale.anganwadi_centers = std::max(scale.anganwadi_centers, scale.schools / 20);
-  scale.waiting = std::min(5000, children / 20);
+  scale.waiting = std::clamp(children / 200, 500, 5000);
   return scale;
 }
 

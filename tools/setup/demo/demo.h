@@ -26,7 +26,8 @@ struct DemoScale {
   int waiting = 120;
 
   /// A programme of that many children: from some ten thousand on a school has about 300 of them and a center
-  /// 17 schools; from 100,000 on the center that waits has 5,000 children.
+  /// 17 schools, and from 100,000 on to a million each location, the center that waits too, has the same
+  /// share of the children, so that two programmes differ in their size alone.
   static DemoScale ForChildren(int children);
 };
 

@@ -99,10 +99,10 @@ void MakeAnganwadis(Places& places, const DemoScale& scale, Villages& villages, 
   }
 }
 
-/// The first center and the one that waits belong to the programme alone; elsewhere vision centers and
-/// hospitals have their schools too.
-Location LocationOf(std::size_t center, const Places& places, std::size_t school) {
-  if (center == 0 || center == places.waiting_center) return Location::kAnganwadi;
+/// Two of twenty centers, the first and the one that waits among them, belong to the programme alone;
+/// elsewhere vision centers and hospitals have their schools too.
+Location LocationOf(std::size_t center, std::size_t school) {
+  if (center % 20 < 2) return Location::kAnganwadi;
   const std::size_t part = school % 20;
   if (part < 11) return Location::kAnganwadi;
   return part < 17 ? Location::kHospital : Location::kVisionCenter;
@@ -120,7 +120,7 @@ void MakeSchools(Places& places, const DemoScale& scale, Villages& villages, Ran
     const std::string_view kind = first_of_block ? " PRIMARY SCHOOL" : random.Pick(kSchoolKinds);
     school.name = first_of_block ? places.blocks[school.block].name : villages.Next();
     school.name += kind;
-    school.location = LocationOf(school.center, places, i);
+    school.location = LocationOf(school.center, i);
     switch (school.location) {
       case Location::kAnganwadi:
         school.enrolled_by = places.centers[school.center].id;

@@ -204,7 +204,7 @@ TEST(DemoScale, GrowsWithTheChildren) {
   EXPECT_EQ(RowsOf(screening, "select count(*) as Total from Enroll_Master"), "15000");
   EXPECT_EQ(
       RowsOf(screening, "select count(*) as Total from Enroll_Master where Center_ID='2' and screened='N'"),
-      "750");
+      "500");
   EXPECT_EQ(RowsOf(screening, "select count(*) as Total from School_Master"),
             RowsOf(screening, "select count(distinct SC_Name) as Total from School_Master"));
 }
