@@ -155,6 +155,8 @@ class Player {
   /// box, frame or menu item as the code writes it, mnemonic included; the chosen tab's caption; a date as
   /// "mm/dd/yyyy"; the file of a picture.
   virtual std::string Text(const ControlName& control) = 0;
+  /// The caption that stands beside a box, combo box, list or date.
+  virtual std::string LabelBeside(const ControlName& control) = 0;
   /// A panel of a status bar, counted from 0.
   virtual std::string PanelText(const ControlName& bar, int panel) = 0;
   virtual std::vector<std::string> Items(const ControlName& list) = 0;

@@ -54,6 +54,7 @@ class ControlsPlayer : public Player, private ProgramObserver {
   bool IsVisible(const ControlName& name) override;
   bool IsOn(const ControlName& name) override;
   std::string Text(const ControlName& name) override;
+  std::string LabelBeside(const ControlName& name) override;
   std::string PanelText(const ControlName& bar, int panel) override;
   std::vector<std::string> Items(const ControlName& name) override;
   int GridRows(const ControlName& name) override;

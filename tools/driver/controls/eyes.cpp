@@ -74,6 +74,10 @@ std::string ControlsPlayer::Text(const ControlName& name) {
   return control.caption();
 }
 
+std::string ControlsPlayer::LabelBeside(const ControlName& name) {
+  return Find(name).caption();
+}
+
 std::string ControlsPlayer::PanelText(const ControlName& bar, int panel) {
   const auto& panels = dynamic_cast<const StatusBar&>(Find(bar)).panels();
   const StatusBar::Panel& shown = panels[static_cast<std::size_t>(panel)];

@@ -53,6 +53,7 @@ const std::vector<GrammarRow>& Grammar() {
        "expect message TEXT title=TEXT? critical|exclamation|information|question|plain?"},
       {StepKind::kExpectNoMessage, "expect no message"},
       {StepKind::kExpectCaption, "expect caption TEXT"},
+      {StepKind::kExpectLabel, "expect label NAME TEXT"},
       {StepKind::kExpectFocus, "expect focus NAME"},
       {StepKind::kExpectPointer, "expect pointer default|hourglass"},
       {StepKind::kExpectOpened, "expect opened|closed NAME"},

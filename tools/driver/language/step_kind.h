@@ -53,6 +53,7 @@ enum class StepKind {
   kExpectMessage,
   kExpectNoMessage,
   kExpectCaption,
+  kExpectLabel,
   kExpectFocus,
   kExpectPointer,
   kExpectOpened,

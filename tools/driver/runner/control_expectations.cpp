@@ -69,6 +69,11 @@ void PlayCaption(Stage& stage, const Step& step) {
   Compare("caption", step.Text(0), stage.player.FormCaption(CurrentForm(stage).name()));
 }
 
+void PlayLabel(Stage& stage, const Step& step) {
+  const Target target = FindTarget(stage, step.Text(0));
+  Compare("label " + step.Text(0), step.Text(1), stage.player.LabelBeside(target.name));
+}
+
 void PlayFocus(Stage& stage, const Step& step) {
   const Target target = FindTarget(stage, step.Text(0));
   const std::string focused = stage.player.FocusedControl(target.name.form);
@@ -195,7 +200,7 @@ const std::vector<HandlerRow>& ControlExpectations() {
       {StepKind::kExpectItems, PlayItems},         {StepKind::kExpectNoItems, PlayNoItems},
       {StepKind::kExpectItemCount, PlayItemCount}, {StepKind::kExpectGridRows, PlayGridRows},
       {StepKind::kExpectGridRow, PlayGridRow},     {StepKind::kExpectGridCell, PlayGridCell},
-      {StepKind::kPicture, PlayPicture},
+      {StepKind::kExpectLabel, PlayLabel},         {StepKind::kPicture, PlayPicture},
   };
   return rows;
 }

@@ -108,9 +108,15 @@ std::string WindowPlayer::Text(const ControlName& name) {
     const QVariant picture = label->property("picture");
     return FromQt(picture.isValid() ? picture.toString() : label->text());
   }
-  const auto* caption = WindowOf(name.form).view().root()->findChild<QLabel*>("look_" + widget.objectName());
-  if (caption == nullptr) throw StepFailure("a text of " + name.control, "it shows none");
-  return FromQt(caption->text());
+  return LabelBeside(name);
+}
+
+std::string WindowPlayer::LabelBeside(const ControlName& name) {
+  const QWidget* root = WindowOf(name.form).view().root();
+  const auto* label = root->findChild<QLabel*>("look_" + BindingOf(name).widget().objectName());
+  if (label == nullptr || !label->isVisibleTo(root))
+    throw StepFailure("a label beside " + name.control, "it shows none");
+  return FromQt(label->text());
 }
 
 std::string WindowPlayer::PanelText(const ControlName& name, int panel) {

@@ -38,6 +38,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "TabStrip1 \"Two\", found \"One\""},
         Expectation{"expect caption \"The &Desk\"", "expect caption \"Desk\"",
                     "caption \"Desk\", found \"The &Desk\""},
+        Expectation{"expect label Text1 \"Name\"", "expect label Text1 \"\"",
+                    "label Text1 \"\", found \"Name\""},
         Expectation{"expect StatusBar1(0) \"credit\"", "expect StatusBar1(3) \"x\"",
                     "StatusBar1(3), found 3 panels"},
         Expectation{"expect StatusBar1(1) \"31/05/2016\"", "expect StatusBar1(2) \"10:15\"",
