@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/controls/form.h"
+#include "base/text/utf8.h"
 
 namespace ovindra {
 
@@ -49,14 +50,34 @@ void ListBox::UserSecondClick() {
   if (CanAct() && HasFocus()) double_click.Fire();
 }
 
+void ListBox::UserMoveTo(int index) {
+  if (CanAct() && form().UserFocus(*this)) SetListIndex(index);
+}
+
 void ListBox::DoKey(Key key) {
-  if (key.name != KeyName::kDown && key.name != KeyName::kUp) {
-    Control::DoKey(key);
-    return;
+  switch (key.name) {
+    case KeyName::kDown:
+    case KeyName::kUp:
+      if (items_.count() == 0) break;
+      SetListIndex(std::clamp(list_index() + (key.name == KeyName::kDown ? 1 : -1), 0, items_.count() - 1));
+      break;
+    case KeyName::kCharacter:
+      // What the key has done may have been to move the entry or the focus away.
+      if (const auto passed = PassKey(key.character); passed && HasFocus()) WalkToCharacter(*passed);
+      break;
+    default:
+      Control::DoKey(key);
   }
-  if (items_.count() == 0) return;
-  const int by = key.name == KeyName::kDown ? 1 : -1;
-  SetListIndex(std::clamp(list_index() + by, 0, items_.count() - 1));
+}
+
+void ListBox::WalkToCharacter(char32_t character) {
+  std::string start;
+  AppendCharacter(start, character);
+  start = LowerCaseLatin(start);
+  for (int step = 1; step <= items_.count(); ++step) {
+    const int index = (list_index() + step) % items_.count();
+    if (LowerCaseLatin(items_.Text(index)).starts_with(start)) return SetListIndex(index);
+  }
 }
 
 }  // namespace ovindra

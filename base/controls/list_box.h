@@ -29,9 +29,10 @@ class ListBox : public Control {
   /// Makes an entry the current one, kNone leaves none; fires nothing. Past the ends is error 380.
   void SetListIndex(int index);
 
-  /// A person picks an entry by mouse; also when it is the current one it fires click. The arrow keys walk
-  /// through the entries without.
+  /// A person picks an entry by mouse; also when it is the current one it fires click.
   void UserPick(int index);
+  /// A person walks to an entry by keyboard, which is no click.
+  void UserMoveTo(int index);
   /// A person clicks an entry twice: the pick, then the double-click.
   void UserDoubleClick(int index);
   /// The second click of a double-click whose first was a pick.
@@ -39,10 +40,13 @@ class ListBox : public Control {
 
  protected:
   void DoClick() override {}
+  /// Up and Down walk; a character walks to the next entry that begins with it.
   void DoKey(Key key) override;
 
  private:
   using Control::Apply;
+
+  void WalkToCharacter(char32_t character);
 
   ListItems items_;
 };

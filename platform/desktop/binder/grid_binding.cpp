@@ -98,6 +98,7 @@ GridBinding::GridBinding(FormView& view, Grid& grid, GridView& shown)
 
 void GridBinding::Show(Aspects aspects) {
   WidgetBinding::Show(aspects);
+  const int before = model_.rowCount();
   if (Has(aspects, Aspect::kItems)) {
     model_.Refresh();
     shown_.horizontalHeader()->setVisible(model_.HasHeadings());
@@ -105,6 +106,8 @@ void GridBinding::Show(Aspects aspects) {
     is_reloaded_ = true;
   }
   ShowCurrent();
+  // Who adds row by row looks for the last one.
+  if (model_.rowCount() == before + 1 && !grid_.HasFocus()) shown_.scrollToBottom();
 }
 
 void GridBinding::FocusArrived() {

@@ -53,7 +53,7 @@ void ListBinding::Step(const QKeyEvent& event) {
                  : event.key() == Qt::Key_PageUp ? here - page
                                                  : here + page;
   const int row = qBound(0, to, last);
-  if (row != here) Act([&] { list_.UserPick(row); });
+  if (row != here) Act([&] { list_.UserMoveTo(row); });
 }
 
 }  // namespace ovindra::desktop

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QListView>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -165,6 +166,35 @@ TEST(ListOnTheScreen, AClickPicksTheSecondOneDoubleClicks) {
   DoubleClick(*list.viewport(), list.visualRect(list.model()->index(1, 0)).center());
   EXPECT_EQ(form.happened, (Happened{"pick", "double"}));
   EXPECT_EQ(form.List1.text(), "SPECTACLE");
+}
+
+TEST(ListOnTheScreen, KeysWalkWithoutAPick) {
+  Desk desk;
+  frmdesk& form = desk.form();
+  form.Note(form.List1.click, "pick");
+  desk.Do([&] { form.List1.SetFocus(); });
+  desk.Key(Qt::Key_End);
+  EXPECT_EQ(form.List1.text(), "SPECTACLE");
+  desk.Key(Qt::Key_Home);
+  EXPECT_EQ(form.List1.text(), "MEDICINE");
+  desk.Type("s");
+  EXPECT_EQ(form.List1.text(), "SPECTACLE");
+  desk.Type("x");
+  EXPECT_EQ(form.List1.text(), "SPECTACLE");
+  EXPECT_EQ(desk.As<QListView>(form.List1).currentIndex().row(), 1);
+  EXPECT_EQ(form.happened, Happened{});
+}
+
+TEST(GridOnTheScreen, ARowThatIsAddedIsSeen) {
+  Desk desk;
+  frmdesk& form = desk.form();
+  auto& grid = desk.As<GridView>(form.MSFlexGrid1);
+  desk.Do([&] {
+    for (int row = 0; row < 60; ++row) form.MSFlexGrid1.AddItem("1\tRAVI\tM");
+  });
+  EXPECT_EQ(grid.verticalScrollBar()->value(), 0) << "a list that is loaded shows its beginning";
+  desk.Do([&] { form.MSFlexGrid1.AddItem("2\tSITA\tF"); });
+  EXPECT_EQ(grid.verticalScrollBar()->value(), grid.verticalScrollBar()->maximum());
 }
 
 }  // namespace
