@@ -24,6 +24,11 @@ double Round(double value, int decimals) {
 
 std::string NumberText(double value) {
   char digits[400];
+  // What a double can't hold shows from the 16th digit on.
+  constexpr int kExactDigits = 15;
+  const auto exact = std::to_chars(std::begin(digits), std::end(digits), value, std::chars_format::scientific,
+                                   kExactDigits - 1);
+  std::from_chars(std::begin(digits), exact.ptr, value);
   const auto written = std::to_chars(std::begin(digits), std::end(digits), value, std::chars_format::fixed);
   return {digits, written.ptr};
 }

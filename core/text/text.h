@@ -13,7 +13,7 @@ double Val(std::string_view text);
 /// Rounds to the given decimals, a tie going to the even digit.
 double Round(double value, int decimals);
 
-/// A number as text: without trailing zeros, and without a point when it is whole.
+/// A number as text, of 15 digits at the most: without trailing zeros, and without a point when it is whole.
 std::string NumberText(double value);
 
 /// The first `width` characters of the text, filled up with the pad character where the text is shorter.

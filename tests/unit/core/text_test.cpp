@@ -20,6 +20,14 @@ TEST(TextFunctions, RoundTakesATieToTheEvenDigit) {
   EXPECT_EQ(Round(33.335, 1), 33.3);
 }
 
+TEST(TextFunctions, ANumberShowsNoDigitThatItCannotHold) {
+  EXPECT_EQ(NumberText(0.1 + 0.2), "0.3");
+  EXPECT_EQ(NumberText(13.5), "13.5");
+  EXPECT_EQ(NumberText(-4), "-4");
+  EXPECT_EQ(NumberText(1e15), "1000000000000000");
+  EXPECT_EQ(NumberText(2.0 / 3), "0.666666666666667");
+}
+
 TEST(TextFunctions, PaddingFillsUpOrCutsToTheWidth) {
   EXPECT_EQ(PadString("आशा", 5, '.'), "आशा..");
   EXPECT_EQ(PadString("ASHA", 2, '.'), "AS");
