@@ -19,20 +19,9 @@ constexpr std::string_view kHelp =
     "To change the rights of a user press Edit, select the user, turn to the tab Rights, and press Ok. "
     "To change a password press Change Password, select the user, enter the new password, and press Ok.";
 
-constexpr std::size_t kGroupLength = 2;
-
 template <typename Boxes>
 void TickEach(Boxes& boxes, bool on) {
   for (CheckBox& box : boxes) box.SetOn(on);
-}
-
-/// A right as its row holds it, by the name of its check box: the index stands between the first and the last
-/// character behind the group.
-std::string BoxNameOf(std::string_view access) {
-  std::string_view index = access.substr(std::min(kGroupLength, access.size()));
-  if (index.size() < 2) return {};
-  index = index.substr(1, index.size() - 2);
-  return std::string(access.substr(0, kGroupLength)) + "(" + std::string(index) + ")";
 }
 
 }  // namespace
@@ -89,6 +78,8 @@ void frmuser::BeginMode() {
   cmdok.SetEnabled(true);
   Combo1.SetEnabled(true);
   Combo1.SetFocus();
+  // The page of the rights hides the name: the focus is led there, and not to the next button.
+  if (!Combo1.HasFocus()) TabStrip1.SetFocus();
 }
 
 void frmuser::Ok() {
@@ -187,13 +178,16 @@ void frmuser::TickRightsOfUser() {
   }
   Recordset rights = database().Execute(sql("select Access from User_Rights where User_Code=", bare(code)));
   for (; !rights.Eof(); rights.MoveNext()) {
-    const std::string name = BoxNameOf(Trim(rights["Access"]));
-    // A right of another group, or to an item that has no box here since it is open to everybody, is passed
-    // over.
-    for (CheckBox* box : Rights()) {
-      if (box->full_name() == name) box->SetOn(true);
-    }
+    const std::string access = Trim(rights["Access"]);
+    if (const auto right = ReadRight(access)) BoxOf(*right).SetOn(true);
   }
+}
+
+CheckBox& frmuser::BoxOf(const MenuRight& right) {
+  const std::vector<CheckBox*> boxes = Rights();
+  const auto box = std::ranges::find(boxes, right.name(), &CheckBox::full_name);
+  if (box == boxes.end()) throw NoSuchItem(right);
+  return **box;
 }
 
 void frmuser::Refuse(std::string_view text) {

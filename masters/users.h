@@ -14,6 +14,7 @@
 #include "base/controls/shown.h"
 #include "base/controls/tabs.h"
 #include "base/controls/text_box.h"
+#include "core/shell/rights.h"
 #include "core/startup/module1.h"
 
 namespace ovindra {
@@ -95,6 +96,7 @@ class frmuser : public Form {
   bool IsMissing(TextControl& field, std::string_view message);
   void Refuse(std::string_view text);
   std::vector<CheckBox*> Rights();
+  CheckBox& BoxOf(const MenuRight& right);
 
   void FillUsers();
   Known CheckUser();

@@ -9,11 +9,6 @@ namespace {
 
 constexpr std::size_t kPrefixLength = 2;
 
-bool NamesMenu(std::string_view access) {
-  const std::string_view menu = access.substr(0, kPrefixLength);
-  return menu == "m1" || menu == "m2" || menu == "m3";
-}
-
 /// What stands between the first and the last character behind the menu's name.
 int IndexOf(std::string_view access) {
   std::string_view index = access.substr(kPrefixLength);
@@ -25,11 +20,21 @@ int IndexOf(std::string_view access) {
   return value;
 }
 
-RuntimeError NoSuchElement(int index) {
-  return {340, "Control array element '" + std::to_string(index) + "' doesn't exist"};
+}  // namespace
+
+std::string MenuRight::name() const {
+  return std::string(menu) + "(" + std::to_string(index) + ")";
 }
 
-}  // namespace
+std::optional<MenuRight> ReadRight(std::string_view access) {
+  const std::string_view menu = access.substr(0, kPrefixLength);
+  if (menu != "m1" && menu != "m2" && menu != "m3") return {};
+  return MenuRight{menu, IndexOf(access)};
+}
+
+RuntimeError NoSuchItem(const MenuRight& right) {
+  return {340, "Control array element '" + std::to_string(right.index) + "' doesn't exist"};
+}
 
 void ApplyRights(Connection& connection, std::string_view user_name, Form& main_window) {
   const std::string user_code = Trim(connection.Execute(
@@ -38,10 +43,10 @@ void ApplyRights(Connection& connection, std::string_view user_name, Form& main_
       connection.Execute(sql("Select Access from User_Rights where User_Code=", bare(user_code)));
   for (; !rights.Eof(); rights.MoveNext()) {
     const std::string access = Trim(rights["Access"]);
-    if (!NamesMenu(access)) continue;
-    const int index = IndexOf(access);
-    Control* item = main_window.Find(access.substr(0, kPrefixLength) + "(" + std::to_string(index) + ")");
-    if (item == nullptr) throw NoSuchElement(index);
+    const auto right = ReadRight(access);
+    if (!right) continue;
+    Control* item = main_window.Find(right->name());
+    if (item == nullptr) throw NoSuchItem(*right);
     item->SetEnabled(true);
   }
 }
