@@ -27,12 +27,10 @@ class frmscreened : public Form {
   ComboBox Combo5{*this, "Combo5", "Center Name", DropDownList};
   ComboBox Combo1{*this, "Combo1", "School Name", DropDownCombo, NoTyping};
   Button Command7{*this, "Command7", "&List", Disabled};
-  ComboBox Combo2{*this, "Combo2", "Enroll No.", DropDownList};
-  Frame Frame1{*this, "Frame1", "Child Details"};
-  Grid MSFlexGrid1{Frame1, "MSFlexGrid1", {"", ""}};
   DatePicker DTPicker1{*this, "DTPicker1", "Screening Date"};
   Button Command6{*this, "Command6", "..."};
   MonthView MonthView1{*this, "MonthView1", Hidden};
+  ComboBox Combo2{*this, "Combo2", "Enroll No.", DropDownList};
   ComboBox Combo3{*this, "Combo3", "Screened By", DropDownList};
   Frame Frame2{*this, "Frame2", "Eye Condition"};
   OptionButton Option1{Frame2, "Option1", "Normal", On};
@@ -53,6 +51,8 @@ class frmscreened : public Form {
                    "MSFlexGrid2",
                    {"Enroll No.", "Child Name", "F/M Name", "Age", "Gender", "Class", "Screened By",
                     "Condition", "Pre Details", "Occupation", "Card", "VC", "ScrBy_Name", "VC Name"}};
+  Frame Frame1{*this, "Frame1", "Child Details"};
+  Grid MSFlexGrid1{Frame1, "MSFlexGrid1", {"", ""}};
   Button Command3{*this, "Command3", "&Close"};
 
   void OnLoad();
