@@ -101,10 +101,12 @@ void JoinTreatments(Grid& grid, const GridIndex& children, int column, Recordset
   const std::size_t description_ordinal = treatments.Ordinal("Description");
   const std::size_t enroll_no_ordinal = treatments.Ordinal("Enroll_No");
   for (; !treatments.Eof(); treatments.MoveNext()) {
+    const std::span<const int> rows = children.RowsOf(Trim(treatments.At(enroll_no_ordinal)));
+    if (rows.empty()) continue;
     const std::string description = Trim(treatments.At(description_ordinal));
     std::string first = description;
     if (description == kSpectacles) first += "/" + Trim(treatments["remark"]);
-    for (const int row : children.RowsOf(Trim(treatments.At(enroll_no_ordinal))))
+    for (const int row : rows)
       JoinText(grid, row, column, grid.Cell(row, column).empty() ? first : description);
   }
 }

@@ -1,8 +1,7 @@
 #include "reports/listing.h"
 
+#include <numeric>
 #include <string>
-
-#include "base/text/blanks.h"
 
 namespace ovindra {
 
@@ -64,23 +63,37 @@ StagingGrid::StagingGrid(Container& container, std::string_view name,
   SetVisible(false);
 }
 
-void RowIndex::Add(std::string_view text, int row) {
-  rows_[std::string(Trim(text))].push_back(row);
+int RowIndex::GroupOf(std::string_view text) {
+  return groups_.try_emplace(std::string(text), static_cast<int>(groups_.size())).first->second;
+}
+
+void RowIndex::Gather(int first_row, const std::vector<int>& group_of_row) {
+  starts_.assign(groups_.size() + 1, 0);
+  for (const int group : group_of_row) ++starts_[static_cast<std::size_t>(group) + 1];
+  std::partial_sum(starts_.begin(), starts_.end(), starts_.begin());
+  rows_.resize(group_of_row.size());
+  std::vector<int> next(starts_);
+  int row = first_row;
+  for (const int group : group_of_row) {
+    const int place = next[static_cast<std::size_t>(group)]++;
+    rows_[static_cast<std::size_t>(place)] = row++;
+  }
 }
 
 std::span<const int> RowIndex::RowsOf(std::string_view text) const {
-  const auto found = rows_.find(std::string(text));
-  if (found == rows_.end()) return {};
-  return found->second;
+  const auto found = groups_.find(std::string(text));
+  if (found == groups_.end()) return {};
+  const int* start = &starts_[static_cast<std::size_t>(found->second)];
+  return std::span(rows_).subspan(static_cast<std::size_t>(start[0]),
+                                  static_cast<std::size_t>(start[1] - start[0]));
 }
 
-GridIndex::GridIndex(const Grid& grid, int column) {
-  for (int row = grid.fixed_rows(); row < grid.rows(); ++row) Add(grid.Cell(row, column), row);
-}
+GridIndex::GridIndex(const Grid& grid, int column)
+    : RowIndex(grid.fixed_rows(), grid.rows() - 1,
+               [&](int row) -> decltype(auto) { return grid.Cell(row, column); }) {}
 
-SheetIndex::SheetIndex(const Sheet& sheet, int first_row, int last_row, int column) {
-  for (int row = first_row; row <= last_row; ++row) Add(sheet.GetCellText(row, column), row);
-}
+SheetIndex::SheetIndex(const Sheet& sheet, int first_row, int last_row, int column)
+    : RowIndex(first_row, last_row, [&](int row) { return sheet.GetCellText(row, column); }) {}
 
 bool JoinText(Grid& grid, int row, int column, std::string_view text) {
   const std::string& before = grid.Cell(row, column);
@@ -100,8 +113,10 @@ void JoinRecords(Grid& grid, const GridIndex& index, int column, Recordset& reco
   const std::size_t value_ordinal = records.Ordinal(value_field);
   const std::size_t key_ordinal = records.Ordinal(key_field);
   for (; !records.Eof(); records.MoveNext()) {
+    const std::span<const int> rows = index.RowsOf(Trim(records.At(key_ordinal)));
+    if (rows.empty()) continue;
     const std::string value = Trim(records.At(value_ordinal));
-    for (const int row : index.RowsOf(Trim(records.At(key_ordinal)))) JoinText(grid, row, column, value);
+    for (const int row : rows) JoinText(grid, row, column, value);
   }
 }
 

@@ -13,6 +13,7 @@
 
 #include "base/controls/grid.h"
 #include "base/database/recordset.h"
+#include "base/text/blanks.h"
 #include "reports/sheet.h"
 
 namespace ovindra {
@@ -52,10 +53,26 @@ class RowIndex {
   std::span<const int> RowsOf(std::string_view text) const;
 
  protected:
-  void Add(std::string_view text, int row);
+  /// The rows from one to another, by the texts that the function gives for them.
+  template <typename TextOf>
+  RowIndex(int first_row, int last_row, TextOf text_of) {
+    const int count = last_row - first_row + 1;
+    if (count <= 0) return;
+    groups_.reserve(static_cast<std::size_t>(count));
+    std::vector<int> group_of_row;
+    group_of_row.reserve(static_cast<std::size_t>(count));
+    for (int row = first_row; row <= last_row; ++row) group_of_row.push_back(GroupOf(Trim(text_of(row))));
+    Gather(first_row, group_of_row);
+  }
 
  private:
-  std::unordered_map<std::string, std::vector<int>> rows_;
+  int GroupOf(std::string_view text);
+  void Gather(int first_row, const std::vector<int>& group_of_row);
+
+  std::unordered_map<std::string, int> groups_;
+  /// The rows, group by group, and where each group begins; behind the last one the end.
+  std::vector<int> rows_;
+  std::vector<int> starts_;
 };
 
 /// The data rows of a grid.
