@@ -77,7 +77,7 @@ CampCoverage CampReportForm::ReadCoverage() {
   coverage.area = ChosenArea();
   coverage.area_code = coverage.area == Area::kBlock ? CodeOf(database(), lookup::kBlockExactly, Combo1)
                                                      : CodeOf(database(), lookup::kStateExactly, Combo2);
-  coverage.location = CodeOf(database(), lookup::kLocation, Combo4);
+  coverage.location = LocationCode(Combo4);
   coverage.camp = Option2.on() ? Camp::kSurgeon : Camp::kAssistant;
   return coverage;
 }

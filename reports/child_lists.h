@@ -45,7 +45,7 @@ class frmenrolllist : public ChildList {
 
  private:
   DatePicker DTPicker1{*this, "DTPicker1", "From"};
-  DatePicker DTPicker2{*this, "DTPicker2", "To"};
+  DatePicker DTPicker2{*this, "DTPicker2", "To : "};
   ComboBox Combo4{*this, "Combo4", "Programme", DropDownList};
   ComboBox Combo1{*this, "Combo1", "Select Type", DropDownList};
   ComboBox Combo2{*this, "Combo2", "Select Center", DropDownList};
@@ -73,7 +73,7 @@ class frmscreenedlist : public ChildList {
 
  private:
   DatePicker DTPicker1{*this, "DTPicker1", "From"};
-  DatePicker DTPicker2{*this, "DTPicker2", "To"};
+  DatePicker DTPicker2{*this, "DTPicker2", "To : "};
   ComboBox Combo1{*this, "Combo1", "Select Type", DropDownList};
   ComboBox Combo2{*this, "Combo2", "Select Center", DropDownList};
   ComboBox Combo3{*this, "Combo3", "Select School", DropDownCombo};

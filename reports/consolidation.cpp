@@ -92,9 +92,10 @@ void frmconsolidation::ProgrammeWise() {
 std::string frmconsolidation::BuildReport(std::initializer_list<TableOfLocation> tables) {
   ShowHourglass();
   printtitleinsheet();
-  std::string location = LocationCode();
+  std::string location = LocationCode(Combo1);
   for (const TableOfLocation& row : tables) {
     if (row.location != location) continue;
+    ConsolidationReport::WriteHeadings(sheet());
     const Coverage coverage{ReadPeriod(), location, row.table->scope, ScopeValue(row.table->scope)};
     ConsolidationReport(sheet(), database(), *row.table, coverage).Build();
   }
@@ -105,12 +106,8 @@ bool frmconsolidation::CheckType() {
   return CheckSelections({{Combo1, {"Select Screenig By First", "OVD", MessageIcon::kQuestion}, Combo1}});
 }
 
-std::string frmconsolidation::LocationCode() {
-  return CodeOf(database(), lookup::kLocation, Combo1);
-}
-
 std::string frmconsolidation::SankulCode() {
-  if (Combo2.text().empty()) return {};
+  if (Combo2.trimmed().empty()) return {};
   return std::to_string(Combo2.items().At(Combo2.list_index()).data);
 }
 
@@ -145,7 +142,6 @@ void frmconsolidation::ShowProgrammeExport() {
 
 SqlText frmconsolidation::ReferredChildren(const std::string& location) {
   const Period period = ReadPeriod();
-  const std::string sankul = SankulCode();
   const SqlText in_period = sql("AND C.ENROLL_DATE BETWEEN ", quoted(period.from, " "), "AND ",
                                 quoted(period.to), " order by d.Sc_Name");
   if (location == kVision) {
@@ -154,7 +150,7 @@ SqlText frmconsolidation::ReferredChildren(const std::string& location) {
         " from Child_Record a,Child_Treatment b,Enroll_Master c,School_Master d,Screened_School e "
         " Where a.Child_RecordNo = B.Child_RecordNo And B.Treatment_Code = 4 "
         " and a.Enroll_No=c.Enroll_No and c.school_id=d.sc_id and d.Sc_ID=e.School_ID and e.Sankul_ID=",
-        bare(sankul), " ", in_period);
+        bare(SankulCode()), " ", in_period);
   }
   if (location == kHospital) {
     return sql(
@@ -162,13 +158,13 @@ SqlText frmconsolidation::ReferredChildren(const std::string& location) {
         " from Child_RecordOS a,Child_TreatmentOS b,Enroll_Master c,School_Master d,Screened_School e "
         " Where a.Child_RecordNo = b.Child_RecordNo And Treatment_Code = 4 "
         " and a.Enroll_No=c.Enroll_No and a.School_ID=d.Sc_ID and d.Sc_ID=e.School_ID and e.Sankul_ID=",
-        bare(sankul), in_period);
+        bare(SankulCode()), in_period);
   }
   return {};
 }
 
 void frmconsolidation::ReferList() {
-  const std::string location = LocationCode();
+  const std::string location = LocationCode(Combo1);
   const SqlText statement = ReferredChildren(location);
   if (Combo2.trimmed().empty()) {
     Tell(machine(), {"Please select a code\nand then proceed", "Error !!!", MessageIcon::kInformation});

@@ -57,7 +57,6 @@ class frmconsolidation : public ReportForm {
   /// Writes the title block and the table of the chosen location, and gives the location.
   std::string BuildReport(std::initializer_list<TableOfLocation> tables);
   bool CheckType();
-  std::string LocationCode();
   /// The chosen sankul's code; nothing when none is chosen.
   std::string SankulCode();
   std::string GetBlockCode();

@@ -18,11 +18,14 @@ constexpr int kParticularsWidth = 20000;
 
 }  // namespace
 
+void ConsolidationReport::WriteHeadings(Sheet sheet) {
+  sheet.SetCellText(kHeadingRow, kSerial, "Sr.");
+  sheet.SetCellText(kHeadingRow, kParticulars, "Particulars");
+  sheet.SetCellText(kHeadingRow, kData, "Data");
+  sheet.SetColumnWidth(kParticulars, kParticularsWidth);
+}
+
 void ConsolidationReport::Build() {
-  sheet_.SetCellText(kHeadingRow, kSerial, "Sr.");
-  sheet_.SetCellText(kHeadingRow, kParticulars, "Particulars");
-  sheet_.SetCellText(kHeadingRow, kData, "Data");
-  sheet_.SetColumnWidth(kParticulars, kParticularsWidth);
   row_ = kFirstRow;
   for (const RowGroup& group : table_.groups) {
     for (const ConsolidationRow& row : group.rows) WriteRow(row, group.examiner);

@@ -19,7 +19,10 @@ class ConsolidationReport {
                       const Coverage& coverage)
       : sheet_(sheet), database_(database), table_(table), coverage_(coverage) {}
 
-  /// Writes the headings, the rows and the formats.
+  /// Writes the headings, which stand before anything is looked up for the table.
+  static void WriteHeadings(Sheet sheet);
+
+  /// Writes the rows and the formats.
   void Build();
 
  private:

@@ -178,8 +178,8 @@ void frmdefected::Show() {
 void frmdefected::CompileRpt() {
   ShowHourglass();
   CompileDefected(database(), MSFlexGrid3);
-  ShowDefaultPointer();
   Tell(machine(), {" OK", ""});
+  ShowDefaultPointer();
 }
 
 void frmdefected::CloseReport() {

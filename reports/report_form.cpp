@@ -10,6 +10,20 @@ namespace ovindra {
 ReportForm::ReportForm(Module1& module, std::string_view name, std::string_view caption, ReportSheet& sheet)
     : Form(module.machine, name, caption), module_(module), sheet_(sheet) {}
 
+ReportForm::~ReportForm() {
+  if (waits_) machine().pointer.Set(PointerShape::kDefault);
+}
+
+void ReportForm::ShowHourglass() {
+  waits_ = true;
+  machine().pointer.Set(PointerShape::kHourglass);
+}
+
+void ReportForm::ShowDefaultPointer() {
+  waits_ = false;
+  machine().pointer.Set(PointerShape::kDefault);
+}
+
 void ReportForm::UsePeriod(DatePicker& from, DatePicker& to) {
   from_ = &from;
   to_ = &to;

@@ -34,6 +34,8 @@ struct PrintSettings {
 class ReportForm : public Form {
  protected:
   ReportForm(Module1& module, std::string_view name, std::string_view caption, ReportSheet& sheet);
+  /// The hourglass that an error has left goes with the form.
+  ~ReportForm() override;
 
   /// The pickers whose dates the report covers, for a form that has them.
   void UsePeriod(DatePicker& from, DatePicker& to);
@@ -53,8 +55,8 @@ class ReportForm : public Form {
   };
   bool CheckSelections(std::initializer_list<Required> required);
 
-  void ShowHourglass() { machine().pointer.Set(PointerShape::kHourglass); }
-  void ShowDefaultPointer() { machine().pointer.Set(PointerShape::kDefault); }
+  void ShowHourglass();
+  void ShowDefaultPointer();
 
   /// Prints the sheet, once the person has chosen a printer.
   void PrintSheet(const PrintSettings& settings);
@@ -82,6 +84,7 @@ class ReportForm : public Form {
   ReportSheet& sheet_;
   DatePicker* from_ = nullptr;
   DatePicker* to_ = nullptr;
+  bool waits_ = false;
 };
 
 }  // namespace ovindra

@@ -97,21 +97,17 @@ void frmspectaclepwr::PressKey(KeyName key) {
   if (key == KeyName::kF8 && Command2.enabled()) Toggle({&Command4});
 }
 
-std::string frmspectaclepwr::LocationCode() {
-  return CodeOf(database(), lookup::kLocation, Combo1);
-}
-
 std::string frmspectaclepwr::GetBlockCode() {
   return CodeOf(database(), lookup::kBlockByPrefix, Combo3);
 }
 
 void frmspectaclepwr::FillCenters() {
   // The type is looked up anew for each test.
-  if (LocationCode() == "V") {
+  if (LocationCode(Combo1) == "V") {
     FillList(database(), sql("Select VC_Name from Vision_Center order by VC_Name"), "VC_Name", Combo2);
-  } else if (LocationCode() == "A") {
+  } else if (LocationCode(Combo1) == "A") {
     FillList(database(), sql("Select AW_Name from Anganwadi_Center order by AW_Name"), "AW_Name", Combo2);
-  } else if (LocationCode() == "H") {
+  } else if (LocationCode(Combo1) == "H") {
     FillList(database(), sql("Select H_Name from Hospital order by H_Name"), "H_Name", Combo2);
   }
 }
@@ -137,7 +133,7 @@ void frmspectaclepwr::ProgrammeWise() {
 }
 
 void frmspectaclepwr::GetRpt() {
-  const SqlText test = sql(" and b.Enroll_No like ", quoted(LocationCode(), "%"));
+  const SqlText test = sql(" and b.Enroll_No like ", quoted(LocationCode(Combo1), "%"));
   Recordset records = database().Execute(Defected(ReadPeriod(), test));
   WriteLayout(kLocationLayout, records);
 }
@@ -149,7 +145,7 @@ void frmspectaclepwr::GetProgrammeRpt() {
 }
 
 void frmspectaclepwr::GetRpt12() {
-  const std::string location = LocationCode();
+  const std::string location = LocationCode(Combo1);
   Recordset records = database().Execute(DefectedOfBlock(ReadPeriod(), location, GetBlockCode()));
   LastRow = WriteLayout(kBlockLayout, records);
 }
@@ -163,7 +159,8 @@ int frmspectaclepwr::WriteLayout(const PowerLayout& layout, Recordset& records) 
   StyleBlock(report, {kBandRow, 1, kHeadingRow, columns}, HeaderStyle());
   const int last = WriteRecords(report, kHeadingRow + 1, records, layout.fields);
   if (last > kHeadingRow) StyleBlock(report, {kHeadingRow + 1, 1, last, columns}, BodyStyle());
-  report.FitColumns(kHeadingRow, 1, last, columns);
+  // The titles of the eyes are made for columns of their full width.
+  report.FitColumns(kHeadingRow, 1, last, layout.first.column - 1);
   return last + 1;
 }
 

@@ -23,11 +23,11 @@ class frmspectaclepwr : public ReportForm {
   Button Command1{*this, "Command1", "&Get"};
   Button Command9{*this, "Command9", "Programme Wise"};
   Button Command5{*this, "Command5", "&Sex", Disabled};
+  SexCount sexes_{*this};
   Button Command2{*this, "Command2", "&Print", Disabled};
   Button Command4{*this, "Command4", "&Export To Excel"};
   Button Command3{*this, "Command3", "&Close"};
   ReportSheet F1Book1{*this, "F1Book1"};
-  SexCount sexes_{*this};
 
   void OnLoad();
   void PressKey(KeyName key);
@@ -44,8 +44,6 @@ class frmspectaclepwr : public ReportForm {
   void GetProgrammeRpt();
   /// Writes the layout with the records below; gives the row after the last one.
   int WriteLayout(const PowerLayout& layout, Recordset& records);
-  bool IsOfLocation(std::string_view location);
-  std::string LocationCode();
   std::string GetBlockCode();
 
   /// The first row after the data of the last block layout.

@@ -14,11 +14,11 @@ class frmspectacle : public CampReportForm {
  private:
   Button Command1{*this, "Command1", "&Get"};
   Button Command5{*this, "Command5", "&Sex"};
+  SexCount sexes_{*this};
   Button Command2{*this, "Command2", "&Print", Disabled};
   Button Command4{*this, "Command4", "&Export to Excel", Hidden};
   Button Command3{*this, "Command3", "&Close"};
   ReportSheet F1Book1{*this, "F1Book1"};
-  SexCount sexes_{*this};
 
   void OnLoad() { OpenSelections(); }
   void PressKey(KeyName key);

@@ -109,7 +109,7 @@ std::string frmturnup::GetBlockCode() {
 
 void frmturnup::GetRpt() {
   const Period period = ReadPeriod();
-  const std::string location = CodeOf(database(), lookup::kLocation, Combo1);
+  const std::string location = LocationCode(Combo1);
   const TurnupCoverage coverage{period, location, GetBlockCode()};
   FillGrid(database(), Children(coverage),
            {"Enroll_No", "Child_Name", "FName", "age", "Gender", "Class", kEmptyCell, "Sc_Name",

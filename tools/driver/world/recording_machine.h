@@ -82,7 +82,7 @@ class RecordingMachine : private MessageBox,
   void Print(const Workbook& workbook) override;
   void StartSpreadsheet() override { RequireApplication("spreadsheet"); }
   void ShowWorkbook(const Workbook& workbook) override { shown_workbook_ = workbook; }
-  void CloseWorkbooks() override {}
+  void CloseWorkbooks() override { shown_workbook_.reset(); }
   void StartWordProcessor() override { RequireApplication("word-processor"); }
   void SaveDocument(const Document& document, std::string_view path) override;
 
