@@ -231,7 +231,7 @@ void frmenroll::LoadEntry() {
 }
 
 SqlText frmenroll::InsertEverything(const Lookup& center) {
-  const SqlText child = ChildValues(center);
+  const PlaceCodes place = ReadPlace(center);
   const std::string school = CodeOf(database(), lookup::kSchool, Combo1);
   const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
   const std::string programme = GetProgrammeCode();
@@ -240,38 +240,44 @@ SqlText frmenroll::InsertEverything(const Lookup& center) {
       "insert into Enroll_Master(Enroll_No,Child_Name,Fname,Age,Gender,"
       "Class,Center_ID,Block_Code,District_Code,State_Code,Country_Code,Enroll_Date,School_ID,School_Going,"
       "Location_ID,Month,Days,Mobile,Programme_Code,EnrollEntry) values(",
-      child, ",", quoted(school, " "), ",", quoted(SchoolGoing()), ",", quoted(location), ",", quoted(Text5),
-      ",", quoted(Text6), ",", quoted(Text7), ",", quoted(programme), ",", quoted(user), ")");
+      ChildValues(place), ",", quoted(school, " "), ",", quoted(SchoolGoing()), ",", quoted(location), ",",
+      quoted(Text5), ",", quoted(Text6), ",", quoted(Text7), ",", quoted(programme), ",", quoted(user), ")");
 }
 
 SqlText frmenroll::InsertPlaceAlone(const Lookup& center) {
-  const SqlText child = ChildValues(center);
-  const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
+  const PlaceCodes place = ReadPlace(center);
   if (Option3.on()) {
     const std::string school = CodeOf(database(), lookup::kSchool, Combo1);
+    const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
     return sql(
         "insert into Enroll_Master(Enroll_No,Child_Name,Fname,Age,Gender,"
         "Class,Center_ID,Block_Code,District_Code,State_Code,Country_Code,Enroll_Date,School_ID,School_Going,"
         "Location_ID) values(",
-        child, ",", quoted(school, " "), ",", quoted(SchoolGoing()), ",", quoted(location), ")");
+        ChildValues(place), ",", quoted(school, " "), ",", quoted(SchoolGoing()), ",", quoted(location), ")");
   }
+  const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
   return sql(
       "insert into Enroll_Master(Enroll_No,Child_Name,Fname,Age,Gender,"
       "Class,Center_ID,Block_Code,District_Code,State_Code,Country_Code,Enroll_Date,School_Going,"
       "Location_ID) values(",
-      child, ",", quoted(SchoolGoing()), ",", quoted(location), ")");
+      ChildValues(place), ",", quoted(SchoolGoing()), ",", quoted(location), ")");
 }
 
-SqlText frmenroll::ChildValues(const Lookup& center) {
-  const std::string center_code = CodeOf(database(), center, Combo7);
-  const std::string block = CodeOf(database(), lookup::kBlockByPrefix, Combo2);
-  const std::string district = CodeOf(database(), lookup::kDistrictByPrefix, Combo3);
-  const std::string state = CodeOf(database(), lookup::kStateByPrefix, Combo4);
-  const std::string country = CodeOf(database(), lookup::kCountryByPrefix, Combo5);
+frmenroll::PlaceCodes frmenroll::ReadPlace(const Lookup& center) {
+  PlaceCodes place;
+  place.center = CodeOf(database(), center, Combo7);
+  place.block = CodeOf(database(), lookup::kBlockByPrefix, Combo2);
+  place.district = CodeOf(database(), lookup::kDistrictByPrefix, Combo3);
+  place.state = CodeOf(database(), lookup::kStateByPrefix, Combo4);
+  place.country = CodeOf(database(), lookup::kCountryByPrefix, Combo5);
+  return place;
+}
+
+SqlText frmenroll::ChildValues(const PlaceCodes& place) {
   return sql(quoted(GetEnrollNO()), ",", quoted(Text1), ",", quoted(Text2), ",", quoted(Text3), ",",
-             quoted(Option1.on() ? "M" : "F"), ",", quoted(Text4), ",", quoted(center_code), ",", bare(block),
-             ",", bare(district), ",", bare(state), ",", bare(country), ",",
-             quoted(MonthFirst(DTPicker1.value())));
+             quoted(Option1.on() ? "M" : "F"), ",", quoted(Text4), ",", quoted(place.center), ",",
+             bare(place.block), ",", bare(place.district), ",", bare(place.state), ",", bare(place.country),
+             ",", quoted(MonthFirst(DTPicker1.value())));
 }
 
 std::string_view frmenroll::SchoolGoing() const {

@@ -81,11 +81,22 @@ class frmenroll : public Form {
   void SortColumn();
 
   bool Validation();
+  struct PlaceCodes {
+    std::string center;
+    std::string block;
+    std::string district;
+    std::string state;
+    std::string country;
+  };
+
   std::string GetEnrollNO();
   void LoadEntry();
   SqlText InsertEverything(const Lookup& center);
   SqlText InsertPlaceAlone(const Lookup& center);
-  SqlText ChildValues(const Lookup& center);
+  PlaceCodes ReadPlace(const Lookup& center);
+  /// The first values of a row. The number is read here, behind all codes, so that a name that is not found
+  /// has read none.
+  SqlText ChildValues(const PlaceCodes& place);
   std::string_view SchoolGoing() const;
   void IncreamentEnroll();
   void View();
