@@ -1,5 +1,8 @@
 #include "base/controls/buttons.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "base/controls/form.h"
 
 namespace ovindra {
@@ -44,6 +47,19 @@ void OptionButton::DoClick() {
 void OptionButton::DoKey(Key key) {
   Control::DoKey(key);
   if (key.name == KeyName::kSpace) DoClick();
+  if (key.name == KeyName::kDown) ClickNeighbour(1);
+  if (key.name == KeyName::kUp) ClickNeighbour(-1);
+}
+
+void OptionButton::ClickNeighbour(int by) {
+  std::vector<OptionButton*> group;
+  ForEachOfGroup([&](OptionButton& option) {
+    if (option.CanAct()) group.push_back(&option);
+  });
+  const auto here = std::find(group.begin(), group.end(), this);
+  if (here == group.end() || group.size() < 2) return;
+  const auto count = static_cast<std::ptrdiff_t>(group.size());
+  group[static_cast<std::size_t>((here - group.begin() + by + count) % count)]->UserClick();
 }
 
 void OptionButton::SwitchOn() {

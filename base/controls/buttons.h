@@ -54,12 +54,14 @@ class OptionButton : public Control {
 
  protected:
   void DoClick() override;
+  /// Up and Down choose the neighbour in the frame, round its ends.
   void DoKey(Key key) override;
 
  private:
   using Control::Apply;
   void Apply(OnTag) { on_ = true; }
   void SwitchOn();
+  void ClickNeighbour(int by);
 
   template <typename Visit>
   void ForEachOfGroup(Visit visit) const;

@@ -3,8 +3,6 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QVariant>
-#include <algorithm>
-#include <vector>
 
 #include "platform/desktop/art/glyphs.h"
 #include "platform/desktop/binder/form_view.h"
@@ -58,22 +56,10 @@ void OptionBinding::Show(Aspects aspects) {
 
 bool OptionBinding::KeyPressed(QKeyEvent& event) {
   const int key = event.key();
-  const bool back = key == Qt::Key_Up || key == Qt::Key_Left;
-  if (!back && key != Qt::Key_Down && key != Qt::Key_Right) return WidgetBinding::KeyPressed(event);
-  if (OptionButton* neighbour = Neighbour(back ? -1 : 1)) Act([&] { neighbour->UserClick(); });
+  if (key != Qt::Key_Left && key != Qt::Key_Right) return WidgetBinding::KeyPressed(event);
+  const KeyName walk = key == Qt::Key_Left ? KeyName::kUp : KeyName::kDown;
+  Act([&] { option_.UserKey({walk}); });
   return true;
-}
-
-OptionButton* OptionBinding::Neighbour(int by) const {
-  std::vector<OptionButton*> group;
-  for (Control* candidate : view().form().controls()) {
-    auto* option = dynamic_cast<OptionButton*>(candidate);
-    if (option != nullptr && option->frame() == option_.frame() && option->CanAct()) group.push_back(option);
-  }
-  const auto here = std::find(group.begin(), group.end(), &option_);
-  if (here == group.end() || group.size() < 2) return nullptr;
-  const auto count = static_cast<std::ptrdiff_t>(group.size());
-  return group[static_cast<std::size_t>((here - group.begin() + by + count) % count)];
 }
 
 CheckBinding::CheckBinding(FormView& view, CheckBox& control, QCheckBox& button)

@@ -35,12 +35,10 @@ class OptionBinding : public PressBinding {
   void Show(Aspects aspects) override;
 
  protected:
-  /// The arrow keys choose the neighbour.
+  /// Left and Right are Up and Down.
   bool KeyPressed(QKeyEvent& event) override;
 
  private:
-  OptionButton* Neighbour(int by) const;
-
   OptionButton& option_;
   QRadioButton& button_;
 };

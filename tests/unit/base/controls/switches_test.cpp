@@ -52,6 +52,19 @@ TEST_F(Switches, TheTabKeyStopsAtTheOptionThatIsOn) {
   EXPECT_EQ(form.NextInOrder(form.MonthView1), &form.Option2);
 }
 
+TEST_F(Switches, UpAndDownChooseTheNeighbourInTheFrame) {
+  form.Option1.SetOn(true);
+  form.Option1.UserKey({KeyName::kDown});
+  EXPECT_TRUE(form.Option2.on());
+  EXPECT_TRUE(form.Option2.HasFocus());
+  form.Option2.UserKey({KeyName::kDown});
+  EXPECT_TRUE(form.Option1.on());
+  form.Option2.SetEnabled(false);
+  form.Option1.UserKey({KeyName::kUp});
+  EXPECT_TRUE(form.Option1.on());
+  EXPECT_EQ(log.Take(), (Events{"Option1", "Option2", "Option1"}));
+}
+
 TEST_F(Switches, ACheckBoxSetByCodeFiresOnlyWhenItChanges) {
   form.Check1.SetOn(false);
   form.Check1.SetOn(true);
