@@ -68,7 +68,8 @@ constexpr std::string_view kCalculator = "m4(1)";
 
 MDIForm1::MDIForm1(Module1& module) : Form(module.machine, "MDIForm1", "OVINDRA DESK"), module_(module) {
   MakeItems();
-  Plain(Find(kCalculator)->click, &MDIForm1::StartCalculator);
+  // A machine without one must not end the program and the entries that stand open.
+  Guarded(Find(kCalculator)->click, &MDIForm1::StartCalculator);
   Plain(MNUEXIT.click, &MDIForm1::Exit);
   Plain(query_close, &MDIForm1::CloseByFrame);
 }

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -15,6 +16,7 @@
 
 #include "base/runtime_error.h"
 #include "platform/desktop/binder/text.h"
+#include "platform/desktop/services/asking_cursor.h"
 #include "platform/desktop/services/documents.h"
 
 namespace ovindra::desktop {
@@ -42,15 +44,19 @@ void WindowPointer::Set(PointerShape shape) {
 }
 
 std::string WindowDialogs::AskSaveName() {
+  const AskingCursor cursor;
+  if (save_folder_.isEmpty()) save_folder_ = DocumentsFolder();
   const QString name =
-      QFileDialog::getSaveFileName(QApplication::activeWindow(), "Save As", DocumentsFolder(),
-                                   "Excel 97 workbook (*.xls);;Excel workbook (*.xlsx);;All files (*)");
+      QFileDialog::getSaveFileName(QApplication::activeWindow(), "Save As", save_folder_,
+                                   "Excel Files (*.xls);;Excel workbook (*.xlsx);;All files (*)");
+  if (!name.isEmpty()) save_folder_ = QFileInfo(name).path();
   return FromQt(name);
 }
 
 bool WindowDialogs::AskPrinter() {
   // A range of pages or a file of the last time must not go on silently.
   printer_.reset();
+  const AskingCursor cursor;
   if (QPrinterInfo::availablePrinterNames().isEmpty()) return AskForPaperFile();
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
   return dialog.exec() == QDialog::Accepted;

@@ -33,6 +33,8 @@ class WindowDialogs : public Dialogs {
   bool AskForPaperFile();
 
   std::unique_ptr<QPrinter> printer_;
+  /// Where the last workbook went.
+  QString save_folder_;
 };
 
 class SystemClock : public Clock {

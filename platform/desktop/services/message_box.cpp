@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "platform/desktop/binder/text.h"
+#include "platform/desktop/services/asking_cursor.h"
 
 namespace ovindra::desktop {
 namespace {
@@ -66,11 +67,8 @@ Answer AnswerOf(const QMessageBox& box) {
 Answer WindowMessageBox::Show(const Message& message) {
   before_();
   const auto box = MakeMessageBox(message, QApplication::activeWindow());
-  // Whoever is asked does not wait.
-  const bool waits = QApplication::overrideCursor() != nullptr;
-  if (waits) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  const AskingCursor cursor;
   box->exec();
-  if (waits) QApplication::restoreOverrideCursor();
   return AnswerOf(*box);
 }
 
