@@ -180,6 +180,11 @@ void FormView::Retire() {
   changed_.clear();
 }
 
+void FormView::FocusChanged() {
+  focus_changed_ = true;
+  if (settings_.focus_moved) settings_.focus_moved(form_);
+}
+
 void FormView::ControlChanged(Control& control, Aspect aspect) {
   if (Binding* binding = by_control_.value(&control)) Mark(*binding, static_cast<unsigned>(aspect));
   const auto* animation = dynamic_cast<const Animation*>(&control);

@@ -29,6 +29,8 @@ struct ViewSettings {
   /// The folder beside the program that pictures are read from.
   QString pictures;
   Timers timers = Timers::kRun;
+  /// Told where a form's focus has moved to, when somebody keeps a record of it.
+  std::function<void(const Form&)> focus_moved = {};
 };
 
 /// By what a person moves the focus: the mouse leaves the caret where it clicked.
@@ -90,7 +92,7 @@ class FormView : public QObject, public FormObserver {
 
   void ControlChanged(Control& control, Aspect aspect) override;
   void CaptionChanged() override { caption_changed_ = true; }
-  void FocusChanged() override { focus_changed_ = true; }
+  void FocusChanged() override;
 
  private:
   void Tie();

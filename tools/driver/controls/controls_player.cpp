@@ -11,9 +11,7 @@ class ControlsPlayer::FocusTracer : public FormObserver {
 
   void ControlChanged(Control&, Aspect) override {}
   void CaptionChanged() override {}
-  void FocusChanged() override {
-    trace_.FocusMoved(form_.name(), form_.focused() == nullptr ? "" : form_.focused()->full_name());
-  }
+  void FocusChanged() override { trace_.FocusMoved(form_); }
 
  private:
   Form& form_;

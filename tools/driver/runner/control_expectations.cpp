@@ -1,3 +1,4 @@
+#include <charconv>
 #include <filesystem>
 
 #include "base/controls/buttons.h"
@@ -49,10 +50,13 @@ bool ExpectPanel(Stage& stage, const std::string& name, const std::string& text)
   if (bar == nullptr) bar = stage.world.Find({"MDIForm1", name.substr(0, bracket)});
   const auto* status_bar = dynamic_cast<const StatusBar*>(bar);
   if (status_bar == nullptr) return false;
-  const int panel = std::stoi(name.substr(bracket + 1));
-  if (panel >= static_cast<int>(status_bar->panels().size()))
+  std::size_t panel = 0;
+  const char* const digits = name.data() + bracket + 1;
+  const auto read = std::from_chars(digits, name.data() + name.size(), panel);
+  if (read.ec != std::errc{} || panel >= status_bar->panels().size())
     throw StepFailure(name, std::to_string(status_bar->panels().size()) + " panels");
-  Compare(name, text, stage.player.PanelText({bar->form().name(), bar->full_name()}, panel));
+  Compare(name, text,
+          stage.player.PanelText({bar->form().name(), bar->full_name()}, static_cast<int>(panel)));
   return true;
 }
 

@@ -64,6 +64,8 @@ class Runner::Session {
       world_.BeginAction();
       runner_.trace_.Action(step.line());
     }
+    // A program that starts anew would take with it how the last one ended.
+    if (step.kind() == StepKind::kStart) Check(step.place(), [this] { CheckNoUnexpectedEnd(); });
     Check(step.place(), [&] {
       if (stage_.end_was_seen && !OutlivesTheProgram(step.kind()))
         throw StepFailure("the program running", "it has ended");
@@ -82,12 +84,16 @@ class Runner::Session {
       Report(place, {"an answer given ahead to " + Describe(*question), "none"});
   }
 
-  /// A message box that nobody expected, and an end of the program by an error that nobody expected.
+  /// A message box that nobody expected, or an end of the program by an error that nobody expected.
   void CheckNothingUnexpected() {
     if (const auto message = world_.machine().TakeMessage()) {
       world_.machine().ForgetMessages();
       throw StepFailure("no message", Describe(*message));
     }
+    CheckNoUnexpectedEnd();
+  }
+
+  void CheckNoUnexpectedEnd() {
     if (stage_.end_was_seen || !world_.HasProgram()) return;
     if (const auto& error = world_.program().end_error()) {
       stage_.end_was_seen = true;

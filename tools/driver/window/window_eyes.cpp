@@ -86,11 +86,13 @@ PointerShape WindowPlayer::SeenPointer() {
 
 bool WindowPlayer::IsEnabled(const ControlName& name) {
   if (const QAction* action = ActionOf(name)) return action->isEnabled();
+  if (const Timer* timer = TimerOf(name)) return timer->enabled();
   return BindingOf(name).widget().isEnabled();
 }
 
 bool WindowPlayer::IsVisible(const ControlName& name) {
   if (const QAction* action = ActionOf(name)) return action->isVisible();
+  if (const Timer* timer = TimerOf(name)) return timer->visible();
   return BindingOf(name).widget().isVisibleTo(WindowOf(name.form).view().root());
 }
 

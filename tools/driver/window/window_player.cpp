@@ -57,7 +57,8 @@ void WindowPlayer::ProgramMade(Program& program) {
   const Machine& machine = world_->machine().services();
   desktop_ = std::make_unique<desktop::Desktop>(
       desktop::OfficeServices{machine.workbook_files, machine.spreadsheet, machine.word_processor},
-      desktop::ViewSettings{QCoreApplication::applicationDirPath(), desktop::Timers::kStandStill},
+      desktop::ViewSettings{QCoreApplication::applicationDirPath(), desktop::Timers::kStandStill,
+                            [this](const Form& form) { world_->trace().FocusMoved(form); }},
       kMainWindow);
   desktop_->Follow(&program);
 }
@@ -134,6 +135,10 @@ QAction* WindowPlayer::ActionOf(const ControlName& name) const {
   auto* action = WindowOf(name.form).view().root()->findChild<QAction*>(desktop::WidgetName(*item));
   if (action == nullptr) throw StepFailure("a menu item " + name.control, "none in the menus");
   return action;
+}
+
+const Timer* WindowPlayer::TimerOf(const ControlName& name) const {
+  return dynamic_cast<const Timer*>(&ControlOf(name));
 }
 
 std::unique_ptr<Player> MakeWindowPlayer(Look look) {

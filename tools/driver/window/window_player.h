@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "base/controls/shown.h"
 #include "platform/desktop/binder/binding.h"
 #include "platform/desktop/desktop.h"
 #include "tools/driver/player.h"
@@ -72,6 +73,8 @@ class WindowPlayer : public Player {
   Kind& WidgetOf(const ControlName& name) const;
   /// The menu item as it stands in its menu; null when the control is none.
   QAction* ActionOf(const ControlName& name) const;
+  /// The timer, which shows nothing; null for all else.
+  const Timer* TimerOf(const ControlName& name) const;
   void ChooseFromMenu(QAction& action);
 
   void ClosePopups();

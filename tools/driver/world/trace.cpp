@@ -51,8 +51,10 @@ void Trace::MessageBox(const Message& message, Answer answer) {
   if (out_ != nullptr) *out_ << "  message " << Describe(message) << " -> " << AnswerWord(answer) << '\n';
 }
 
-void Trace::FocusMoved(std::string_view form, std::string_view control) {
-  if (out_ != nullptr) *out_ << "  focus " << form << ' ' << (control.empty() ? "none" : control) << '\n';
+void Trace::FocusMoved(const Form& form) {
+  if (out_ == nullptr) return;
+  *out_ << "  focus " << form.name() << ' '
+        << (form.focused() == nullptr ? "none" : form.focused()->full_name()) << '\n';
 }
 
 }  // namespace ovindra::driver

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/controls/form.h"
 #include "base/machine/machine.h"
 
 namespace ovindra::driver {
@@ -24,8 +25,8 @@ class Trace {
   void Action(std::string_view line);
   void Statement(std::string_view database, std::string_view text, std::string_view outcome);
   void MessageBox(const Message& message, Answer answer);
-  /// The control's full name; empty when no control of the form has the focus any more.
-  void FocusMoved(std::string_view form, std::string_view control);
+  /// Which control of the form has the focus now, if one has.
+  void FocusMoved(const Form& form);
 
  private:
   std::ostream* out_ = nullptr;

@@ -42,6 +42,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "label Text1 \"\", found \"Name\""},
         Expectation{"expect StatusBar1(0) \"credit\"", "expect StatusBar1(3) \"x\"",
                     "StatusBar1(3), found 3 panels"},
+        Expectation{"expect StatusBar1(2) \"10:15 AM\"", "expect StatusBar1(3000000000) \"x\"",
+                    "StatusBar1(3000000000), found 3 panels"},
         Expectation{"expect StatusBar1(1) \"31/05/2016\"", "expect StatusBar1(2) \"10:15\"",
                     "StatusBar1(2) \"10:15\", found \"10:15 AM\""},
         Expectation{"expect Text1 \"\"", "expect Grid1 \"x\"", "a text of Grid1, found a grid has rows"},

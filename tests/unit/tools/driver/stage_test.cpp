@@ -68,6 +68,13 @@ TEST(Starting, ShowsTheSplashWhichOpensTheConnections) {
       Lines{});
 }
 
+TEST(Starting, ForgetsNoEndThatNobodyExpected) {
+  const std::vector<std::string> failures =
+      Failures("open frmDesk\nhospital disconnect\nclick Command6\nstart\nexpect opened frmflash");
+  ASSERT_EQ(failures.size(), 1U);
+  EXPECT_EQ(failures[0].rfind("4: expected the program running, found it has ended with 3709", 0), 0U);
+}
+
 TEST(Starting, DropsTheFormsAndKeepsTheDatabases) {
   EXPECT_EQ(Failures("open frmDesk\ntype Text2 \"keep a\"\nclick Command4\nstart\nexpect closed frmDesk\n"
                      "expect sql select kept => a\nclick Command4"),
