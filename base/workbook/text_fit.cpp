@@ -71,7 +71,11 @@ int WrappedLines(std::string_view text, const CellFont& font, double room) {
       ++lines;
       used = 0;
     }
-    for (used += piece; used > room; used -= room) ++lines;
+    used += piece;
+    while (used > room) {
+      used -= room;
+      ++lines;
+    }
     text.remove_prefix(end);
     if (!text.starts_with(' ')) continue;
     used += blank;

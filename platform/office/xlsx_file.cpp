@@ -177,6 +177,8 @@ class XlsxWriter {
   void WritePageSetup() {
     constexpr std::uint8_t kA4 = 9;
     const PageSetup& setup = workbook_.page_setup;
+    // Every cell is a text; a reader of the list must not find a mark on each that looks like a number.
+    Require(worksheet_ignore_errors(sheet_, LXW_IGNORE_NUMBER_STORED_AS_TEXT, "A1:XFD1048576"));
     worksheet_set_paper(sheet_, kA4);
     worksheet_set_margins(sheet_, setup.left_margin, setup.right_margin, setup.top_margin,
                           setup.bottom_margin);

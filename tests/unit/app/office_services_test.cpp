@@ -25,8 +25,7 @@ class Opener : public QObject {
  public:
   QStringList opened;
 
- public slots:
-  void Open(const QUrl& url) { opened.push_back(url.toLocalFile()); }
+  Q_SLOT void Open(const QUrl& url) { opened.push_back(url.toLocalFile()); }
 };
 
 class OfficeServices : public testing::Test {

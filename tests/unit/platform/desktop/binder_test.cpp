@@ -174,7 +174,7 @@ TEST(Dates, TheCalendarIsWalkedByKeysAndPutAway) {
   Desk desk;
   frmdesk& form = desk.form();
   form.MonthView1.key_press.Handle(
-      [&](KeyPress& press) { form.happened.push_back(press.character == kEnterKey ? "enter" : "?"); });
+      [&](KeyPress& press) { form.happened.emplace_back(press.character == kEnterKey ? "enter" : "?"); });
   desk.Do([&] {
     form.MonthView1.SetVisible(true);
     form.MonthView1.SetFocus();
@@ -252,7 +252,7 @@ TEST(Closing, TheFrameAsksTheForm) {
   desk.window()->window()->close();
   EXPECT_TRUE(desk.IsOpen());
   EXPECT_TRUE(desk.window()->window()->isVisible());
-  form.happened.push_back("done");
+  form.happened.emplace_back("done");
   desk.window()->window()->close();
   EXPECT_FALSE(desk.IsOpen());
 }

@@ -67,7 +67,7 @@ class frmdesk : public Form {
   using Form::Close;
 
   template <typename... Args>
-  void Note(Event<Args...>& event, std::string what) {
+  void Note(Event<Args...>& event, const std::string& what) {
     event.Handle([this, what](Args...) { happened.push_back(what); });
   }
 };
