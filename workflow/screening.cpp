@@ -165,7 +165,7 @@ void frmscreened::PressInCalendar(KeyPress& press) {
 }
 
 SqlText frmscreened::WaitingAt(const std::string& center_code) {
-  const SqlText at_center =
+  SqlText at_center =
       sql("select Enroll_No from Enroll_Master where Center_ID=", quoted(center_code), " and screened='N'");
   if (Combo1.trimmed().empty()) return at_center;
   return sql(at_center, " and School_ID=", quoted(CodeOf(database(), lookup::kSchoolInCapitals, Combo1)));

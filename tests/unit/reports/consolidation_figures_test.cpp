@@ -31,7 +31,7 @@ class Expectation {
  public:
   explicit Expectation(const Counted& counted) : counted_(counted) {}
 
-  void List(std::multimap<std::string, long> lines, bool with_total = true) {
+  void List(const std::multimap<std::string, long>& lines, bool with_total = true) {
     column_.push_back("");
     long total = 0;
     std::vector<std::string> texts;

@@ -57,6 +57,7 @@ std::vector<ExaminationFacts> ReadExaminations(Session& database, const RecordTa
     records.at(Trim(rows["Child_RecordNo"]))
         .treatments.push_back(static_cast<int>(Number(rows["Treatment_Code"])));
   std::vector<ExaminationFacts> all;
+  all.reserve(records.size());
   for (auto& [number, record] : records) all.push_back(std::move(record));
   return all;
 }

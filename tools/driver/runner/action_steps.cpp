@@ -32,20 +32,20 @@ Cell CellOf(Stage& stage, const Step& step, const Target& target) {
 
 /// A control that can have the focus.
 Target FindFocusable(Stage& stage, const Step& step) {
-  const Target target = FindUsable(stage, step.Text(0));
+  Target target = FindUsable(stage, step.Text(0));
   if (!target.control->TakesFocus()) throw StepFailure(step.Text(0) + " to take the focus", "it takes none");
   return target;
 }
 
 /// A box that can be typed into, or with keys only: a drop-down list takes keys, but no text.
 Target FindBox(Stage& stage, const Step& step) {
-  const Target target = FindUsable(stage, step.Text(0));
+  Target target = FindUsable(stage, step.Text(0));
   As<TextControl>(target, "a box");
   return target;
 }
 
 Target FindEditable(Stage& stage, const Step& step) {
-  const Target target = FindBox(stage, step);
+  Target target = FindBox(stage, step);
   const auto* combo = dynamic_cast<ComboBox*>(target.control);
   if (combo != nullptr && combo->style() == ComboStyle::kDropDownList)
     throw StepFailure(step.Text(0) + " to be a box that takes a text", "a list to pick from");

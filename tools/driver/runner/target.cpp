@@ -30,7 +30,7 @@ Target FindTarget(Stage& stage, const std::string& name) {
 }
 
 Target FindUsable(Stage& stage, const std::string& name) {
-  const Target target = FindTarget(stage, name);
+  Target target = FindTarget(stage, name);
   if (!stage.player.IsVisible(target.name)) throw StepFailure(name + " visible", "hidden");
   if (!stage.player.IsEnabled(target.name)) throw StepFailure(name + " enabled", "disabled");
   return target;

@@ -114,7 +114,7 @@ TEST_F(DatabaseFile, ATornFileIsRefusedAsDamaged) {
     EXPECT_TRUE(database->IntegrityReport().empty());
   }
   std::fstream file(path_, std::ios::in | std::ios::out | std::ios::binary);
-  file.seekp(2 * 4096);
+  file.seekp(2L * 4096);
   file << std::string(8000, 'x');
   file.close();
   const auto database = Open();

@@ -31,7 +31,7 @@ TEST(Lexer, PartsWordsAsTheServerDoes) {
        "word:between text:05/01/2016 word:and text:05/31/2016 word:and"},
       {"a<>b<=c!=1", "word:a sym:<> word:b sym:<= word:c sym:!= int:1"},
       {"1.5 .5 5. 1e5 2.5E-3 1else", "dec:1.5 dec:.5 dec:5. float:1e5 float:2.5E-3 int:1 word:else"},
-      {"[Group By] \"x\"\"y\" [a]]b]", "name:Group By name:x\"y name:a]b"},
+      {R"([Group By] "x""y" [a]]b])", "name:Group By name:x\"y name:a]b"},
       {"'it''s' N'x' ''", "text:it's text:x text:"},
       {"select--rest of line\n1/*a/*b*/c*/+2", "word:select int:1 sym:+ int:2"},
       {"'--' '/*'", "text:-- text:/*"},

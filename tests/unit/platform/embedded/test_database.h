@@ -47,9 +47,9 @@ class TestDatabase {
   EmbeddedDatabase* operator->() { return database_.get(); }
 
   Recordset Run(std::string_view statement) { return database_->Run(WholeStatement(statement)); }
-  Rows Select(std::string statement) { return RowsOf(Run(std::move(statement))); }
+  Rows Select(const std::string& statement) { return RowsOf(Run(statement)); }
   /// The first field of the first row.
-  std::string Value(std::string statement) { return Select(std::move(statement)).at(0).at(0); }
+  std::string Value(const std::string& statement) { return Select(statement).at(0).at(0); }
   std::string Refusal(const std::string& statement) {
     return RefusalOf([&] { Run(statement); });
   }

@@ -69,8 +69,12 @@ TEST_F(Server, LongTextsAreReadInPiecesWithoutASeam) {
   // A piece holds 1023 characters; the clef takes two of them.
   for (const int length : {1022, 1023, 1024, 2046, 2047, 100'000}) {
     const std::string count = std::to_string(length);
-    const Recordset row =
-        Ask(*session_, "select repeat('अ'," + count + ")||'|' as One,'x'||repeat('𝄞'," + count + ") as Two");
+    std::string statement = "select repeat('अ',";
+    statement += count;
+    statement += ")||'|' as One,'x'||repeat('𝄞',";
+    statement += count;
+    statement += ") as Two";
+    const Recordset row = Ask(*session_, statement);
     std::string one;
     std::string two = "x";
     for (int i = 0; i < length; ++i) {

@@ -239,7 +239,7 @@ class frmsheet : public Form {
 class DeskSession : public Session {
  public:
   explicit DeskSession(DatabaseContent content) {
-    if (content == DatabaseContent::kDemo) kept_.push_back("demo");
+    if (content == DatabaseContent::kDemo) kept_.emplace_back("demo");
   }
 
   Recordset Run(const SqlText& statement) override {

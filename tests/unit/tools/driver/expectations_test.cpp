@@ -127,7 +127,7 @@ TEST(Messages, AreExpectedOldestFirst) {
 }
 
 TEST(Messages, ThatNobodyExpectedFailAtTheNextActionAndAtTheEnd) {
-  const char* const report = "expected no message, found \"first\\nline\" title \"one\" information";
+  const char* const report = R"(expected no message, found "first\nline" title "one" information)";
   EXPECT_EQ(Failures("open frmDesk\nclick Command5\nexpect Text1 \"\"\nfocus Text1\nexpect no message"),
             Lines{std::string("4: ") + report});
   EXPECT_EQ(Failures("open frmDesk\nclick Command5\nexpect Text1 \"\""), Lines{std::string("3: ") + report});

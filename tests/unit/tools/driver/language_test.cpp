@@ -38,7 +38,7 @@ TEST(TextArguments, EscapesAndDoubledQuotes) {
 }
 
 TEST(TextArguments, QuoteWritesWhatCutLineReads) {
-  for (const char* text : {"a\"b\tc\nd\re\\f", "C:\\temp\\new.xls", "\\\\server\\", "\\\t\\\"\\"}) {
+  for (const char* text : {"a\"b\tc\nd\re\\f", "C:\\temp\\new.xls", R"(\\server\)", "\\\t\\\"\\"}) {
     const auto tokens = CutLine(Quote(text));
     ASSERT_EQ(tokens.size(), 1u) << text;
     EXPECT_EQ(tokens.front().value, text);
@@ -80,7 +80,7 @@ TEST(Refusals, NameTheWord) {
       {"clock 24:00", "f:1: not in the language: '24:00'"},
       {"press Text1 Return", "f:1: not in the language: 'Return'"},
       {"press Text1 \"ab\"", "f:1: not in the language: '\"ab\"'"},
-      {"expect message \"a\" \"b\"", "f:1: not in the language: '\"b\"'"},
+      {R"(expect message "a" "b")", "f:1: not in the language: '\"b\"'"},
       {"expect message \"a\" title", "f:1: not in the language: something is missing after 'title'"},
       {"expect Text1 enabled bright", "f:1: not in the language: 'bright'"},
       {"expect sql select 1", "f:1: not in the language: something is missing after '1'"},
@@ -94,21 +94,21 @@ TEST(Refusals, NameTheWord) {
 TEST(Grammar, TakesEveryFormOfEveryStep) {
   const char* lines[] = {
       "database demo",
-      "hospital fail \"a\" 1 \"b\"",
+      R"(hospital fail "a" 1 "b")",
       "hospital disconnect",
-      "unwritable \"C:\\Enroll.xls\"",
+      R"(unwritable "C:\Enroll.xls")",
       "no word-processor",
       "save-as \"a b.xls\"",
       "save-as cancel",
       "printer cancel",
-      "expect message \"a*\" title \"t\" critical",
+      R"(expect message "a*" title "t" critical)",
       "expect message \"a\" plain",
       "expect Text1 enabled visible focused",
       "expect ended",
       "expect ended \"3021 *\"",
       "expect hospital statement contains \"x\"",
       "expect no hospital statement contains \"x\"",
-      "expect hospital statements contain \"x\" \"y\"",
+      R"(expect hospital statements contain "x" "y")",
       "expect cell 6 2 empty",
       "expect cell 6 2 contains \"x\"",
       "expect cell 5 1 font 10 bold underline colour 16711935",
@@ -123,9 +123,9 @@ TEST(Grammar, TakesEveryFormOfEveryStep) {
       "expect print centred",
       "expect print footer \"&C & Page &P\"",
       "expect not printed",
-      "expect no file \"C:\\Enroll.xls\"",
-      "expect workbook \"f\" cell 1 3 \"x\"",
-      "expect workbook \"f\" sheet \"x\"",
+      R"(expect no file "C:\Enroll.xls")",
+      R"(expect workbook "f" cell 1 3 "x")",
+      R"(expect workbook "f" sheet "x")",
       "expect spreadsheet protected",
       "expect spreadsheet merged \"A1:G1\"",
       "expect spreadsheet width 7 30.71",
