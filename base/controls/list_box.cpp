@@ -17,7 +17,9 @@ void ListBox::AddItem(std::string_view text, long data) {
 }
 
 void ListBox::RemoveItem(int index) {
+  const bool was_current = index == list_index();
   items_.Remove(index);
+  if (was_current) removed_at_ = index;
   Changed(Aspect::kItems);
 }
 
@@ -27,6 +29,7 @@ void ListBox::SetItemData(int index, long data) {
 
 void ListBox::Clear() {
   items_.Clear();
+  removed_at_ = 0;
   Changed(Aspect::kItems);
 }
 
@@ -57,9 +60,10 @@ void ListBox::UserMoveTo(int index) {
 void ListBox::DoKey(Key key) {
   switch (key.name) {
     case KeyName::kDown:
+      Walk(list_index() == ListItems::kNone ? removed_at_ : list_index() + 1);
+      break;
     case KeyName::kUp:
-      if (items_.count() == 0) break;
-      SetListIndex(std::clamp(list_index() + (key.name == KeyName::kDown ? 1 : -1), 0, items_.count() - 1));
+      Walk((list_index() == ListItems::kNone ? removed_at_ : list_index()) - 1);
       break;
     case KeyName::kCharacter:
       // What the key has done may have been to move the entry or the focus away.
@@ -68,6 +72,10 @@ void ListBox::DoKey(Key key) {
     default:
       Control::DoKey(key);
   }
+}
+
+void ListBox::Walk(int to) {
+  if (items_.count() > 0) SetListIndex(std::clamp(to, 0, items_.count() - 1));
 }
 
 void ListBox::WalkToCharacter(char32_t character) {

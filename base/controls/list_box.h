@@ -40,15 +40,18 @@ class ListBox : public Control {
 
  protected:
   void DoClick() override {}
-  /// Up and Down walk; a character walks to the next entry that begins with it.
+  /// Up and Down walk, on from the place of an entry that was removed; a character walks to the next entry
+  /// that begins with it.
   void DoKey(Key key) override;
 
  private:
   using Control::Apply;
 
+  void Walk(int to);
   void WalkToCharacter(char32_t character);
 
   ListItems items_;
+  int removed_at_ = 0;
 };
 
 }  // namespace ovindra

@@ -26,6 +26,9 @@ class TabStrip : public Control {
   /// A person chooses a tab.
   void UserSelect(int tab);
 
+  /// Where there is nothing to choose the Tab key passes by.
+  bool IsTabStop() const override { return captions_.size() > 1; }
+
  protected:
   void DoClick() override {}
 

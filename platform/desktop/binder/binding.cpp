@@ -72,7 +72,12 @@ void WidgetBinding::Show(Aspects aspects) {
 
 void WidgetBinding::PressMnemonic() {
   view().Commit();
-  Act([this] { control().UserClick(); });
+  // A letter that several share leads from one to the next, so that none is pressed by mistake.
+  if (view().SharesMnemonic(*this)) {
+    view().UserFocus(*this, FocusBy::kKeyboard);
+  } else {
+    Act([this] { control().UserClick(); });
+  }
 }
 
 bool WidgetBinding::eventFilter(QObject* watched, QEvent* event) {

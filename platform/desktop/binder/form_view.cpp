@@ -158,6 +158,15 @@ void FormView::FocusCameTo(const WidgetBinding& binding) {
   QMetaObject::invokeMethod(this, &FormView::ShowFocus, Qt::QueuedConnection);
 }
 
+bool FormView::SharesMnemonic(const WidgetBinding& binding) const {
+  const auto& controls = form_.controls();
+  return std::any_of(controls.begin(), controls.end(), [&](const Control* control) {
+    const WidgetBinding* other = BindingOf(*control);
+    return other != nullptr && other != &binding && control->CanAct() && !other->mnemonic().isNull() &&
+           other->mnemonic().toUpper() == binding.mnemonic().toUpper();
+  });
+}
+
 WidgetBinding* FormView::WithMnemonic(const QKeyEvent& event) const {
   // Of several with the letter the next one after the focus is meant.
   WidgetBinding* first = nullptr;

@@ -84,6 +84,8 @@ class FormView : public QObject, public FormObserver {
   void FocusCameTo(const WidgetBinding& binding);
   /// The control that Alt and the letter press; null for none.
   WidgetBinding* WithMnemonic(const QKeyEvent& event) const;
+  /// Another control that can be used has the same letter.
+  bool SharesMnemonic(const WidgetBinding& binding) const;
 
   /// The form is unloaded: nothing touches it any more.
   void Retire();

@@ -60,6 +60,21 @@ TEST(Focus, TabFollowsTheOrderOfTheFormBothWays) {
   EXPECT_TRUE(desk.IsFocused(form.Combo2));
 }
 
+TEST(Focus, ALetterPressesOneControlAndLeadsThroughSeveral) {
+  Desk desk;
+  frmdesk& form = desk.form();
+  form.Note(form.Command1.click, "save");
+  form.Note(form.Command2.click, "show");
+  desk.Key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(form.happened, Happened{"save"});
+  desk.Do([&] { form.Command2.SetCaption("&Show"); });
+  for (Button* next : {&form.Command2, &form.Command1}) {
+    desk.Key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(desk.IsFocused(*next)) << next->name();
+  }
+  EXPECT_EQ(form.happened, Happened{"save"});
+}
+
 TEST(Focus, AControlThatIsSwitchedOffWhileItHasItGivesItAway) {
   Desk desk;
   frmdesk& form = desk.form();
