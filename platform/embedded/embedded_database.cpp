@@ -26,7 +26,8 @@ struct EmbeddedDatabase::Connection {
       : path(std::move(file_path)),
         name(std::move(database_name)),
         busy_wait(wait),
-        database(path.empty() ? std::string(":memory:") : path.string(), flags),
+        // One thread has it, so that SQLite need not lock at every column that is read.
+        database(path.empty() ? std::string(":memory:") : path.string(), flags | SQLite::OPEN_NOMUTEX),
         engine(database.getHandle(), path.string(), name) {
     sqlite3_extended_result_codes(database.getHandle(), 1);
     sqlite3_busy_handler(database.getHandle(), WaitForOthers, this);

@@ -27,6 +27,7 @@ struct EmbeddedOptions {
   std::chrono::milliseconds busy_wait{5000};
 };
 
+/// Used by one thread alone.
 class EmbeddedDatabase : public TransactionSession {
  public:
   /// Opens a database file. Refuses a missing file, one that is no database, that is of a newer schema, that
