@@ -246,16 +246,15 @@ SqlText frmenroll::InsertEverything(const Lookup& center) {
 
 SqlText frmenroll::InsertPlaceAlone(const Lookup& center) {
   const PlaceCodes place = ReadPlace(center);
+  const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
   if (Option3.on()) {
     const std::string school = CodeOf(database(), lookup::kSchool, Combo1);
-    const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
     return sql(
         "insert into Enroll_Master(Enroll_No,Child_Name,Fname,Age,Gender,"
         "Class,Center_ID,Block_Code,District_Code,State_Code,Country_Code,Enroll_Date,School_ID,School_Going,"
         "Location_ID) values(",
         ChildValues(place), ",", quoted(school, " "), ",", quoted(SchoolGoing()), ",", quoted(location), ")");
   }
-  const std::string location = CodeOf(database(), lookup::kLocation, Combo6);
   return sql(
       "insert into Enroll_Master(Enroll_No,Child_Name,Fname,Age,Gender,"
       "Class,Center_ID,Block_Code,District_Code,State_Code,Country_Code,Enroll_Date,School_Going,"

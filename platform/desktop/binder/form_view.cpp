@@ -158,25 +158,30 @@ void FormView::FocusCameTo(const WidgetBinding& binding) {
   QMetaObject::invokeMethod(this, &FormView::ShowFocus, Qt::QueuedConnection);
 }
 
+WidgetBinding* FormView::UsableWith(const Control& control, QChar letter) const {
+  WidgetBinding* binding = BindingOf(control);
+  const bool has_it =
+      binding != nullptr && !letter.isNull() && binding->mnemonic().toUpper() == letter.toUpper();
+  return has_it && control.CanAct() ? binding : nullptr;
+}
+
 bool FormView::SharesMnemonic(const WidgetBinding& binding) const {
   const auto& controls = form_.controls();
   return std::any_of(controls.begin(), controls.end(), [&](const Control* control) {
-    const WidgetBinding* other = BindingOf(*control);
-    return other != nullptr && other != &binding && control->CanAct() && !other->mnemonic().isNull() &&
-           other->mnemonic().toUpper() == binding.mnemonic().toUpper();
+    const WidgetBinding* other = UsableWith(*control, binding.mnemonic());
+    return other != nullptr && other != &binding;
   });
 }
 
 WidgetBinding* FormView::WithMnemonic(const QKeyEvent& event) const {
   // Of several with the letter the next one after the focus is meant.
+  const QChar letter(static_cast<char16_t>(event.key()));
   WidgetBinding* first = nullptr;
   bool behind = form_.focused() == nullptr;
-  for (Control* control : form_.controls()) {
-    WidgetBinding* binding = BindingOf(*control);
-    const bool meant = binding != nullptr && control->CanAct() && !binding->mnemonic().isNull() &&
-                       binding->mnemonic().toUpper().unicode() == event.key();
-    if (meant && behind) return binding;
-    if (meant && first == nullptr) first = binding;
+  for (const Control* control : form_.controls()) {
+    WidgetBinding* meant = UsableWith(*control, letter);
+    if (meant != nullptr && behind) return meant;
+    if (first == nullptr) first = meant;
     behind = behind || control == form_.focused();
   }
   return first;

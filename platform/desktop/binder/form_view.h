@@ -98,6 +98,8 @@ class FormView : public QObject, public FormObserver {
 
  private:
   void Tie();
+  /// The control's binding where it can be used and has that letter, else null.
+  WidgetBinding* UsableWith(const Control& control, QChar letter) const;
   /// False while another child window of the main window is the active one: its focus must not be stolen.
   bool IsActive() const;
   void Activate();
